@@ -1,0 +1,132 @@
+/*
+ * libsibdecoder_umts: system information of a UMTS cell, from BCH transport blocks or whole
+ * SIBs, into flat records.
+ *
+ * A caller hands one BCH transport block at a time to umts_sib_decoder (segments of each SIB
+ * are collected across calls in g_umts_ctxt) or one assembled SIB to umts_sib_msg_decoder,
+ * and reads the blocks converted by the call in its own umts_sib_set: bit n of
+ * presence_bitmask says that sub-record n was filled (the numbering of umts_sib_id).
+ *
+ * Calls are to come from one thread at a time: the collected segments live in one global.
+ */
+#ifndef UMTS_SIB_DECODER_H
+#define UMTS_SIB_DECODER_H
+
+#include <stdint.h>
+
+#include "umts_sib_mib.h"
+#include "umts_sib_sb.h"
+#include "umts_sib_sib1.h"
+#include "umts_sib_sib2_sib7.h"
+#include "umts_sib_sib3.h"
+#include "umts_sib_sib5.h"
+#include "umts_sib_meas.h"
+#include "umts_sib_sib18.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Slot index of a SIB, and its bit (1 << id) in request_bitmask and presence_bitmask. */
+typedef enum umts_sib_id {
+  umts_sib_mib = 0,
+  umts_sib_sib1 = 1,
+  umts_sib_sib2 = 2,
+  umts_sib_sib3 = 3,
+  umts_sib_sib5 = 4,
+  umts_sib_sib7 = 5,
+  umts_sib_sib11 = 6,
+  umts_sib_sib11bis = 7,
+  umts_sib_sib12 = 8,
+  umts_sib_sib18 = 9,
+  umts_sib_sb1 = 10,
+  umts_sib_sb2 = 11,
+  umts_sib_count = 12 /* number of slots, and "invalid" */
+} umts_sib_id;
+
+/* Bytes of one SIB between calls. An empty slot has all four fields zero. */
+typedef struct umts_sib_slot {
+  uint8_t* buffer;             /* base of the SIB's bytes, owned by the slot */
+  uint8_t* write_cursor;       /* where the next segment's bytes go */
+  uint8_t total_segments;      /* SEG-COUNT of the first segment */
+  uint8_t remaining_segments;  /* segments still to come */
+} umts_sib_slot;
+
+typedef struct umts_decoder_ctxt {
+  uint32_t request_bitmask;    /* bit n: the SIB of slot n is complete and waits for conversion */
+  umts_sib_slot slots[umts_sib_count];
+} umts_decoder_ctxt;
+
+/* The library's one global: zero at load, never reset as a whole. */
+extern umts_decoder_ctxt g_umts_ctxt;
+
+/* The caller's result. It holds no pointers; the library keeps none to it. It is large
+   (the SIB5 record has long fixed arrays): allocate it once and pass it by pointer. */
+#define umts_sib_set_FIELDS(F)                                          \
+  F(SCALAR, uint16_t, presence_bitmask, 1, UMTS_ALWAYS, _)              \
+  F(RECORD, umts_mib_info, mib, 1, 0, _)                                \
+  F(RECORD, umts_sib1_info, sib1, 1, 1, _)                              \
+  F(RECORD, umts_sib2_info, sib2, 1, 2, _)                              \
+  F(RECORD, umts_sib3_info, sib3, 1, 3, _)                              \
+  F(RECORD, umts_sib5_info, sib5, 1, 4, _)                              \
+  F(RECORD, umts_sib7_info, sib7, 1, 5, _)                              \
+  F(RECORD, umts_sib11_info, sib11, 1, 6, _)                            \
+  F(RECORD, umts_sib11bis_info, sib11bis, 1, 7, _)                      \
+  F(RECORD, umts_sib12_info, sib12, 1, 8, _)                            \
+  F(RECORD, umts_sib18_info, sib18, 1, 9, _)                            \
+  F(RECORD, umts_sb1_info, sb1, 1, 10, _)                               \
+  F(RECORD, umts_sb2_info, sb2, 1, 11, _)
+UMTS_RECORD(umts_sib_set)
+
+/* Every flat record of the library, each after the records it holds. */
+#define UMTS_ALL_RECORDS(X) \
+  UMTS_COMMON_RECORDS(X)    \
+  UMTS_MIB_RECORDS(X)       \
+  UMTS_SB_RECORDS(X)        \
+  UMTS_SIB1_RECORDS(X)      \
+  UMTS_SIB2_SIB7_RECORDS(X) \
+  UMTS_SIB3_RECORDS(X)      \
+  UMTS_SIB5_RECORDS(X)      \
+  UMTS_MEAS_RECORDS(X)      \
+  UMTS_SIB18_RECORDS(X)     \
+  X(RECORD, umts_sib_set)
+
+/* ---- Entries ------------------------------------------------------------------------- */
+
+/* One BCH transport block of `length` bytes. Returns 1 when the block's segments were filed
+   and the SIBs they completed were converted, 0 otherwise. */
+uint8_t umts_sib_decoder(const uint8_t* data, umts_sib_set* result, uint32_t length);
+
+/* One complete SIB of `length` bytes (1 to 2048) for slot `sib_id`. Clears
+   result->presence_bitmask first; returns 1 when every conversion that ran succeeded. */
+uint8_t umts_sib_msg_decoder(umts_sib_id sib_id, const uint8_t* data, umts_sib_set* result, uint32_t length);
+
+/* ---- Driver -------------------------------------------------------------------------- */
+
+/* Runs the conversions requested in g_umts_ctxt, MIB first; 0 at the first failure. */
+uint8_t decode_system_info_msg(umts_sib_set* result);
+/* Raises the request bit of one SIB. */
+void umts_sib_decoder_set_gb_ctxt_bitmask(umts_sib_id sib_id);
+/* The slot of a decoded SIB-Type value; umts_sib_count for the types not kept. */
+umts_sib_id get_sib_type(uint32_t sib_type);
+
+/* ---- Conversions: one per block, reading the slot of its SIB ------------------------- */
+
+uint8_t umts_convert_mib(umts_mib_info* mib);
+uint8_t umts_convert_sib1(umts_sib1_info* sib1);
+uint8_t umts_convert_sib2(umts_sib2_info* sib2);
+uint8_t umts_convert_sib3(umts_sib3_info* sib3);
+uint8_t umts_convert_sib5(umts_sib5_info* sib5);
+uint8_t umts_convert_sib7(umts_sib7_info* sib7);
+uint8_t umts_convert_sib11(umts_sib11_info* sib11);
+uint8_t umts_convert_sib11bis(umts_sib11bis_info* sib11bis);
+uint8_t umts_convert_sib12(umts_sib12_info* sib12);
+uint8_t umts_convert_sib18(umts_sib18_info* sib18);
+uint8_t convert_scheduling_block1(umts_sb1_info* sb1);
+uint8_t convert_scheduling_block2(umts_sb2_info* sb2);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* UMTS_SIB_DECODER_H */

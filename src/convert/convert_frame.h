@@ -1,0 +1,111 @@
+/*
+ * The frame that every conversion run by the driver shares.
+ *
+ * A conversion decodes the bytes waiting in its slot of g_umts_ctxt with the generated
+ * decoder of its SIB, prints the decoded value, and only then replaces its flat record by
+ * the copy of the decoded tree. It owns a runtime context for that time; the decoded tree
+ * lives in the context and dies with it, so the record keeps no pointer into it. The slot
+ * itself is released by the driver afterwards, not here.
+ *
+ * What differs between blocks is data, held in one constant umts_frame_desc per block: the
+ * slot, the print title and five messages, each with the channel it goes to. A message
+ * whose channel is UMTS_FRAME_QUIET is not given.
+ *
+ *   static const umts_frame_desc kSib3Frame = {
+ *       umts_sib_sib3, "Decoded SysInfoType3\n",
+ *       {UMTS_FRAME_PUTS, "ASN context initialisation failed "},     init_failed
+ *       {UMTS_FRAME_QUIET, nullptr},                                 initialised
+ *       {UMTS_FRAME_PUTS, "umts_convert_sib3:asn decoding failed"},  decode_failed
+ *       {UMTS_FRAME_QUIET, nullptr},                                 decoded
+ *       {UMTS_FRAME_QUIET, nullptr}};                                closing
+ *
+ *   uint8_t umts_convert_sib3(umts_sib3_info* sib3) {
+ *     rtxContext ctx;
+ *     SysInfoType3 decoded;
+ *     if (!umts_frame_open(&ctx, &kSib3Frame)) return 0;
+ *     if (!UMTS_FRAME_DECODE(ctx, SysInfoType3, decoded, kSib3Frame, sib3)) return 0;
+ *     ... copy `decoded` into *sib3 ...
+ *     return umts_frame_close(&ctx, &kSib3Frame);
+ *   }
+ *
+ * The steps, and what each leaves behind:
+ *   umts_frame_open    zeroes the context and initialises it through the licence-keyed call;
+ *                      on failure: init_failed, context freed, 0. Otherwise initialised,
+ *                      and the slot's buffer becomes the decode buffer with the fixed length
+ *                      UMTS_SIB_DECODE_LENGTH (every slot buffer holds that many bytes). An
+ *                      emptied slot (null buffer) leaves the decode buffer empty, so that the
+ *                      decoding then fails at its first bit.
+ *   UMTS_FRAME_DECODE  zeroes `decoded` and runs asn1PD_UMTS_<Type>; on a nonzero status:
+ *                      decode_failed, context freed, 0, the record untouched. Otherwise
+ *                      asn1Print_UMTS_<Type> with the title, decoded, the record zeroed, 1.
+ *   umts_frame_close   closing, context freed, 1.
+ * After a 0 from either of the first two the context is already freed: just return 0.
+ *
+ * The channels are those of the system: the MIB's messages go to the log service (level 2
+ * errors, level 6 trace, each guarded by the threshold), the other blocks print with puts,
+ * or with printf where the text is to stay without a line end.
+ */
+#ifndef UMTS_CONVERT_FRAME_H
+#define UMTS_CONVERT_FRAME_H
+
+#include <string.h>
+
+#include "umts_rrc.h"
+#include "umts_sib_decoder.h"
+#include "umts_sib_frame.h"
+
+#if defined(__GNUC__) || defined(__clang__)
+#define UMTS_FRAME_LOCAL __attribute__((visibility("hidden")))
+#else
+#define UMTS_FRAME_LOCAL
+#endif
+
+/* Where a frame message goes. */
+typedef enum umts_frame_channel {
+  UMTS_FRAME_QUIET = 0,  /* nowhere */
+  UMTS_FRAME_LOG_ERROR,  /* log service, level 2 */
+  UMTS_FRAME_LOG_TRACE,  /* log service, level 6 */
+  UMTS_FRAME_PUTS,       /* standard output, the text and a line end */
+  UMTS_FRAME_PRINTF      /* standard output, the text as it stands */
+} umts_frame_channel;
+
+/* A message of the frame: a plain text, with no conversions in it. */
+typedef struct umts_frame_message {
+  umts_frame_channel channel;
+  const char* text;
+} umts_frame_message;
+
+/* What one block's frame says and where it reads. */
+typedef struct umts_frame_desc {
+  umts_sib_id slot;                 /* whose buffer is decoded */
+  const char* title;                /* name given to the print of the decoded value */
+  umts_frame_message init_failed;   /* the context could not be initialised */
+  umts_frame_message initialised;   /* the context is ready */
+  umts_frame_message decode_failed; /* the decoder returned a nonzero status */
+  umts_frame_message decoded;       /* after the print of the decoded value */
+  umts_frame_message closing;       /* before the context is freed on success */
+} umts_frame_desc;
+
+/* Gives one message on its channel. */
+UMTS_FRAME_LOCAL void umts_frame_say(const umts_frame_message* message);
+
+/* Prepares `ctx` to decode the slot of `desc`. 1 when ready; 0 with the context freed. */
+UMTS_FRAME_LOCAL uint8_t umts_frame_open(rtxContext* ctx, const umts_frame_desc* desc);
+
+/* Takes the decoder's status. 1 when it is 0; otherwise decode_failed, the context freed,
+   0. */
+UMTS_FRAME_LOCAL uint8_t umts_frame_decoded(rtxContext* ctx, int status, const umts_frame_desc* desc);
+
+/* Ends a successful conversion: closing, the context freed, 1. */
+UMTS_FRAME_LOCAL uint8_t umts_frame_close(rtxContext* ctx, const umts_frame_desc* desc);
+
+/* Decodes the slot's bytes as `Type` into `decoded`, prints it under the title and zeroes the
+   record `*record`; true on success, false with the context freed and the record untouched.
+   `ctx`, `decoded` and `desc` are named objects, `record` a pointer. */
+#define UMTS_FRAME_DECODE(ctx, Type, decoded, desc, record)                                       \
+  (memset(&(decoded), 0, sizeof(decoded)),                                                        \
+   umts_frame_decoded(&(ctx), asn1PD_UMTS_##Type(&(ctx), &(decoded)), &(desc)) &&                 \
+       (asn1Print_UMTS_##Type((desc).title, &(decoded)), umts_frame_say(&(desc).decoded),        \
+        memset((record), 0, sizeof *(record)), 1))
+
+#endif /* UMTS_CONVERT_FRAME_H */

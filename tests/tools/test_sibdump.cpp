@@ -1,0 +1,246 @@
+/*
+ * sibdump as a user runs it, on the committed samples and on bad input.
+ */
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <map>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "json_check.h"
+
+namespace {
+
+const std::string kSibdump = SIBDUMP_PATH;
+const std::string kMksamples = MKSAMPLES_PATH;
+const std::string kSamples = UMTS_SAMPLES_DIR;
+const std::vector<std::string> kCycle = {"mib", "sib1", "sib2", "sib3", "sib5", "sib7", "sib11", "sib12", "sib18", "sb1"};
+
+std::string temp_dir() {
+  static std::string dir;
+  if (dir.empty()) {
+    std::string pattern = ::testing::TempDir() + "sibdump_test_XXXXXX";
+    std::vector<char> buf(pattern.begin(), pattern.end());
+    buf.push_back('\0');
+    if (mkdtemp(buf.data()) != nullptr) dir = buf.data();
+  }
+  return dir;
+}
+
+std::string read_file(const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  std::stringstream s;
+  s << in.rdbuf();
+  return s.str();
+}
+
+void write_file(const std::string& path, const std::string& text) { std::ofstream(path, std::ios::binary) << text; }
+
+struct Outcome {
+  int status;
+  std::string out;
+  std::string err;
+};
+
+/* Runs the shell command `args` after the tool, capturing both streams. */
+Outcome run(const std::string& tool, const std::string& args) {
+  const std::string err_path = temp_dir() + "/stderr.txt";
+  const std::string cmd = "'" + tool + "' " + args + " 2>'" + err_path + "'";
+  Outcome r{-1, "", ""};
+  FILE* p = popen(cmd.c_str(), "r");
+  if (p == nullptr) return r;
+  char buf[4096];
+  size_t n;
+  while ((n = std::fread(buf, 1, sizeof buf, p)) > 0) r.out.append(buf, n);
+  const int status = pclose(p);
+  r.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  r.err = read_file(err_path);
+  return r;
+}
+
+std::vector<std::string> lines_of(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream in(text);
+  for (std::string l; std::getline(in, l);) lines.push_back(l);
+  return lines;
+}
+
+/* The JSON lines of a run by block name; every line must be a JSON object of the form
+   {"line":N,"block":"name","record":{...}}. */
+std::map<std::string, std::vector<std::string>> records_of(const std::string& out) {
+  std::map<std::string, std::vector<std::string>> by_block;
+  for (const std::string& l : lines_of(out)) {
+    EXPECT_TRUE(json_check::valid(l)) << l;
+    const size_t b = l.find(",\"block\":\"");
+    EXPECT_EQ(l.rfind("{\"line\":", 0), 0u) << l;
+    if (b == std::string::npos) continue;
+    const size_t e = l.find('"', b + 10);
+    by_block[l.substr(b + 10, e - b - 10)].push_back(l);
+  }
+  return by_block;
+}
+
+std::string record_part(const std::string& line) { return line.substr(line.find(",\"record\":")); }
+
+/* Number of the first line of `text` that starts with `prefix` (after blanks), from 1. */
+size_t line_number(const std::string& text, const std::string& prefix) {
+  const std::vector<std::string> lines = lines_of(text);
+  for (size_t i = 0; i < lines.size(); i++) {
+    const size_t s = lines[i].find_first_not_of(" \t");
+    if (s != std::string::npos && lines[i].compare(s, prefix.size(), prefix) == 0) return i + 1;
+  }
+  return 0;
+}
+
+/* The first line that is neither empty nor a comment, from 1. */
+size_t first_data_line(const std::string& text) {
+  const std::vector<std::string> lines = lines_of(text);
+  for (size_t i = 0; i < lines.size(); i++)
+    if (!lines[i].empty() && lines[i][0] != '#') return i + 1;
+  return 0;
+}
+
+TEST(Sibdump, DecodesTheSampleCycle) {
+  const std::string input = kSamples + "/fdd_cell.bch";
+  const std::string text = read_file(input);
+  size_t blocks = 0;
+  for (const std::string& l : lines_of(text)) blocks += !l.empty() && l[0] != '#';
+  ASSERT_GT(blocks, 3u);
+  const size_t first_block_line = first_data_line(text);
+
+  const Outcome r = run(kSibdump, "'" + input + "'");
+  EXPECT_EQ(r.status, 0) << r.err;
+  EXPECT_NE(r.err.find("sibdump: " + std::to_string(blocks) + " blocks read, 10 records written, 0 bad lines"),
+            std::string::npos)
+      << r.err;
+  const auto records = records_of(r.out);
+  for (const std::string& name : kCycle) EXPECT_EQ(records.count(name) ? records.at(name).size() : 0u, 1u) << name;
+  EXPECT_EQ(records.size(), kCycle.size());
+
+  /* The MIB is whole in the first block: MCC 262, MNC 01. */
+  ASSERT_EQ(records.count("mib"), 1u);
+  const std::string& mib = records.at("mib")[0];
+  EXPECT_EQ(mib.rfind("{\"line\":" + std::to_string(first_block_line) + ",", 0), 0u) << mib;
+  EXPECT_NE(mib.find("\"mcc\":{\"count\":3,\"digits\":[2,6,2]}"), std::string::npos) << mib;
+  EXPECT_NE(mib.find("\"mnc\":{\"count\":2,\"digits\":[0,1]}"), std::string::npos) << mib;
+}
+
+/* The same SIBs whole give the same records as through the BCH. */
+TEST(Sibdump, WholeSibsMatchTheBchPath) {
+  const std::string input = kSamples + "/fdd_cell_sibs.txt";
+  const Outcome whole = run(kSibdump, "--sibs '" + input + "'");
+  EXPECT_EQ(whole.status, 0) << whole.err;
+  EXPECT_NE(whole.err.find("sibdump: 10 SIBs read, 10 records written, 0 bad lines"), std::string::npos) << whole.err;
+  const auto by_sib = records_of(whole.out);
+  const auto by_bch = records_of(run(kSibdump, "'" + kSamples + "/fdd_cell.bch'").out);
+  const std::string text = read_file(input);
+  for (const std::string& name : kCycle) {
+    ASSERT_EQ(by_sib.count(name), 1u) << name;
+    const std::string& l = by_sib.at(name)[0];
+    EXPECT_EQ(l.rfind("{\"line\":" + std::to_string(line_number(text, name + " ")) + ",", 0), 0u) << l;
+    if (by_bch.count(name) != 0) {
+      EXPECT_EQ(record_part(l), record_part(by_bch.at(name)[0])) << name;
+    }
+  }
+}
+
+TEST(Sibdump, BadLinesAreReportedAndSkipped) {
+  const std::string cycle = read_file(kSamples + "/fdd_cell.bch");
+  const std::string mib_block = lines_of(cycle)[first_data_line(cycle) - 1]; /* the MIB's block */
+  std::string spaced;
+  for (size_t i = 0; i < mib_block.size(); i += 2) spaced += mib_block.substr(i, 2) + (i % 8 == 6 ? "\t" : " ");
+
+  const std::string bch = temp_dir() + "/bad.bch";
+  write_file(bch, "# a comment\n" + mib_block + "  # the MIB\n" + "0e zz 00\n" + "abc\n" +
+                      std::string(140, 'a') + "\n\n   \n" + spaced + "\n");
+  const Outcome r = run(kSibdump, "'" + bch + "'");
+  EXPECT_EQ(r.status, 1);
+  EXPECT_NE(r.err.find(bch + ":3: bad hex digit 'z' at column 4"), std::string::npos) << r.err;
+  EXPECT_NE(r.err.find(bch + ":4: odd number of hex digits (3)"), std::string::npos) << r.err;
+  EXPECT_NE(r.err.find(bch + ":5: block of 70 octets is longer than 64"), std::string::npos) << r.err;
+  EXPECT_NE(r.err.find("sibdump: 2 blocks read, 2 records written, 3 bad lines"), std::string::npos) << r.err;
+  const auto records = records_of(r.out);
+  ASSERT_EQ(records.count("mib"), 1u);
+  ASSERT_EQ(records.at("mib").size(), 2u);
+  EXPECT_EQ(records.at("mib")[0].rfind("{\"line\":2,", 0), 0u);
+  EXPECT_EQ(records.at("mib")[1].rfind("{\"line\":8,", 0), 0u);
+
+  const std::string sibs = temp_dir() + "/bad_sibs.txt";
+  const std::string whole = read_file(kSamples + "/fdd_cell_sibs.txt");
+  const std::string mib_sib = lines_of(whole)[line_number(whole, "mib ") - 1];
+  write_file(sibs, "sib4 0011\nmib\nmib # nothing\n" + mib_sib + "\n");
+  const Outcome s = run(kSibdump, "--sibs < '" + sibs + "'");
+  EXPECT_EQ(s.status, 1);
+  EXPECT_NE(s.err.find("<stdin>:1: unknown SIB name 'sib4'"), std::string::npos) << s.err;
+  EXPECT_NE(s.err.find("<stdin>:2: empty block"), std::string::npos) << s.err;
+  EXPECT_NE(s.err.find("<stdin>:3: empty block"), std::string::npos) << s.err;
+  EXPECT_NE(s.err.find("sibdump: 1 SIBs read, 1 records written, 3 bad lines"), std::string::npos) << s.err;
+  EXPECT_EQ(records_of(s.out).count("mib"), 1u);
+}
+
+TEST(Sibdump, HelpAndUsageErrors) {
+  const Outcome help = run(kSibdump, "--help");
+  EXPECT_EQ(help.status, 0);
+  for (const char* text : {"Usage: sibdump", "--sibs", "--asn1-text FILE", "--log-level N", "Exit status",
+                           "Example:", "mib, sib1, sib2, sib3, sib5, sib7, sib11, sib11bis, sib12, sib18, sb1, sb2"})
+    EXPECT_NE(help.out.find(text), std::string::npos) << text;
+
+  const struct {
+    const char* args;
+    const char* message;
+  } errors[] = {
+      {"--bogus", "unknown option '--bogus'"},
+      {"'/nonexistent/cell.bch'", "cannot open '/nonexistent/cell.bch'"},
+      {"--log-level many", "--log-level needs a number"},
+      {"--asn1-text", "option --asn1-text needs a value"},
+      {"--asn1-text /nonexistent/dir/out.txt /dev/null", "cannot open '/nonexistent/dir/out.txt'"},
+      {"a.bch b.bch", "one input file only"},
+  };
+  for (const auto& e : errors) {
+    const Outcome r = run(kSibdump, e.args);
+    EXPECT_EQ(r.status, 2) << e.args;
+    EXPECT_NE(r.err.find(e.message), std::string::npos) << e.args << ": " << r.err;
+    EXPECT_TRUE(r.out.empty()) << e.args;
+  }
+}
+
+/* The library's own standard output never mixes with the JSON. */
+TEST(Sibdump, LibraryTextGoesApart) {
+  const std::string input = "'" + kSamples + "/fdd_cell.bch'";
+  const Outcome plain = run(kSibdump, input);
+  const std::string text_path = temp_dir() + "/asn1.txt";
+  const Outcome to_file = run(kSibdump, "--asn1-text '" + text_path + "' " + input);
+  EXPECT_EQ(to_file.status, 0);
+  EXPECT_EQ(to_file.out, plain.out);
+  const std::string text = read_file(text_path);
+  EXPECT_NE(text.find("UMTS_BCCH_BCH_Message"), std::string::npos);
+  EXPECT_NE(text.find("Decoded MIB"), std::string::npos);
+
+  const Outcome to_stderr = run(kSibdump, "--asn1-text - " + input);
+  EXPECT_EQ(to_stderr.out, plain.out);
+  EXPECT_NE(to_stderr.err.find("UMTS_BCCH_BCH_Message"), std::string::npos);
+  EXPECT_EQ(plain.err.find("UMTS_BCCH_BCH_Message"), std::string::npos);
+}
+
+TEST(Sibdump, LogLevelReachesTheLibrary) {
+  const std::string input = "--sibs '" + kSamples + "/fdd_cell_sibs.txt'";
+  EXPECT_EQ(run(kSibdump, input).err.find("ASN context initialised"), std::string::npos);
+  EXPECT_NE(run(kSibdump, "--log-level 6 " + input).err.find("ASN context initialised"), std::string::npos);
+  EXPECT_EQ(run(kSibdump, "--log-level=2 " + input).err.find("ASN context initialised"), std::string::npos);
+}
+
+/* The committed samples are what mksamples writes. */
+TEST(Samples, AreUpToDate) {
+  const Outcome r = run(kMksamples, "'" + temp_dir() + "'");
+  ASSERT_EQ(r.status, 0) << r.err;
+  for (const char* name : {"/fdd_cell.bch", "/fdd_cell_sibs.txt"})
+    EXPECT_EQ(read_file(temp_dir() + name), read_file(kSamples + name)) << name << ": run 'make samples'";
+}
+
+}  // namespace

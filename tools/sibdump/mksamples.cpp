@@ -1,0 +1,756 @@
+/*
+ * mksamples: the system information of a plausible UMTS FDD cell, built value by value,
+ * encoded with the codec (asn1PE_UMTS_<SIB type>) and cut into BCH transport blocks.
+ *
+ *   mksamples DIR   writes DIR/fdd_cell.bch        one broadcast cycle, a transport block per
+ *                                                  line in hex, '#' comments on what each
+ *                                                  block carries (input of sibdump)
+ *                          DIR/fdd_cell_sibs.txt   the same SIBs whole, '<name> <hex>'
+ *                                                  (input of sibdump --sibs)
+ *
+ * The cell: MCC 262, MNC 01, LAC 0x4E21, RAC 5, cell identity 0x01A2B3C (RNC 26, C-Id 11068),
+ * primary scrambling code 123 on one carrier, a dozen intra-frequency neighbours and three
+ * GSM neighbours. Every SIB is decoded again after encoding, so that a value the decoder
+ * would not read back stops the run.
+ */
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "bch_segmenter.h"
+#include "umts_rrc.h"
+#include "umts_rrc_rt.h"
+
+namespace {
+
+rtxContext g_ctx; /* every value built here lives on this context's heap */
+
+[[noreturn]] void die(const char* what) {
+  std::fprintf(stderr, "mksamples: %s\n", what);
+  std::exit(1);
+}
+
+template <class T>
+T* make() {
+  T* p = static_cast<T*>(rtxMemHeapAllocZ(&g_ctx, sizeof(T)));
+  if (p == nullptr) die("out of memory");
+  return p;
+}
+
+void append(rtxDList* list, void* data) {
+  rtxDListNode* node = make<rtxDListNode>();
+  node->data = data;
+  rtxDListAppendNode(list, node);
+}
+
+void set_digits(uint32_t* n, uint8_t* elem, const char* digits) {
+  *n = 0;
+  for (const char* d = digits; *d != '\0'; d++) elem[(*n)++] = static_cast<uint8_t>(*d - '0');
+}
+
+void set_plmn(PLMN_Identity* p, const char* mcc, const char* mnc) {
+  set_digits(&p->mcc.n, p->mcc.elem, mcc);
+  set_digits(&p->mnc.n, p->mnc.elem, mnc);
+}
+
+void set_bits(rtxBitStr32* b, uint32_t numbits, uint32_t value) {
+  b->numbits = numbits;
+  const uint32_t left = value << (32u - numbits);
+  for (int i = 0; i < 4; i++) b->data[i] = static_cast<uint8_t>(left >> (24 - 8 * i));
+}
+
+/* One encoded SIB. */
+struct Sib {
+  const char* name;     /* as sibdump --sibs names it */
+  const char* label;    /* as the comments name it */
+  uint32_t sib_type;    /* SIB-Type value */
+  std::vector<uint8_t> bytes;
+  uint32_t numbits;
+};
+
+#define MKS_ENCODE(Type, value, sib)                                                            \
+  do {                                                                                          \
+    if (rtxInitContextBuffer(&g_ctx, nullptr, 0) != 0 || asn1PE_UMTS_##Type(&g_ctx, (value)) != 0) \
+      encode_failed(#Type);                                                                     \
+    (sib).numbits = static_cast<uint32_t>(rtxBitPos(&g_ctx));                                   \
+    (sib).bytes.assign(rtxEncGetBuffer(&g_ctx), rtxEncGetBuffer(&g_ctx) + pu_getMsgLen(&g_ctx)); \
+    check_decode_##Type(sib);                                                                   \
+  } while (0)
+
+[[noreturn]] void encode_failed(const char* type) {
+  char text[512];
+  rtxErrGetText(&g_ctx, text, sizeof text);
+  std::fprintf(stderr, "mksamples: encoding %s failed: %s\n", type, text);
+  std::exit(1);
+}
+
+/* Decodes an encoding again; it must succeed and read exactly the encoded bits. */
+#define MKS_DEFINE_CHECK(Type)                                                                  \
+  void check_decode_##Type(const Sib& sib) {                                                    \
+    rtxContext* ctx = new rtxContext;                                                           \
+    std::memset(ctx, 0, sizeof *ctx);                                                           \
+    Type value;                                                                                 \
+    std::memset(&value, 0, sizeof value);                                                       \
+    int stat = rtInitContext(ctx);                                                              \
+    if (stat == 0) stat = pu_setBuffer(ctx, sib.bytes.data(), static_cast<uint32_t>(sib.bytes.size()), 0); \
+    if (stat == 0) stat = asn1PD_UMTS_##Type(ctx, &value);                                      \
+    const bool ok = stat == 0 && rtxBitPos(ctx) == sib.numbits;                                 \
+    char text[512] = "";                                                                        \
+    if (!ok) rtxErrGetText(ctx, text, sizeof text);                                             \
+    rtFreeContext(ctx);                                                                         \
+    delete ctx;                                                                                 \
+    if (!ok) {                                                                                  \
+      std::fprintf(stderr, "mksamples: %s does not decode back: %s\n", #Type, text);            \
+      std::exit(1);                                                                             \
+    }                                                                                           \
+  }
+MKS_DEFINE_CHECK(MasterInformationBlock)
+MKS_DEFINE_CHECK(SysInfoTypeSB1)
+MKS_DEFINE_CHECK(SysInfoType1)
+MKS_DEFINE_CHECK(SysInfoType2)
+MKS_DEFINE_CHECK(SysInfoType3)
+MKS_DEFINE_CHECK(SysInfoType5)
+MKS_DEFINE_CHECK(SysInfoType7)
+MKS_DEFINE_CHECK(SysInfoType11)
+MKS_DEFINE_CHECK(SysInfoType12)
+MKS_DEFINE_CHECK(SysInfoType18)
+
+/* ---- Scheduling -------------------------------------------------------------------------- */
+
+/* Where a block is broadcast: SIB_REP in frames and SIB_POS (an even frame number). */
+struct Schedule {
+  uint32_t rep;
+  uint32_t pos;
+};
+
+void set_scheduling(SchedulingInformation* s, Schedule at, uint32_t seg_count) {
+  asn1Init_UMTS_SchedulingInformation(s);
+  SchedulingInformation_scheduling* sch = &s->scheduling;
+  sch->segCount = static_cast<uint8_t>(seg_count);
+  /* sib-Pos counts in units of two frames: rep4 (1) ... rep4096 (11). */
+  uint32_t t = 1;
+  for (uint32_t r = 4; r < at.rep; r *= 2) t++;
+  sch->sib_Pos.t = t;
+  const uint32_t value = at.pos / 2u;
+  if (t <= 8) {
+    sch->sib_Pos.u.rep4 = static_cast<uint8_t>(value);
+  } else {
+    sch->sib_Pos.u.rep1024 = static_cast<uint16_t>(value);
+  }
+}
+
+/* The value tags of the cycle: changing a SIB means raising its tag. */
+constexpr uint8_t kMibValueTag = 3;
+constexpr uint16_t kPlmnValueTag = 17;
+constexpr uint8_t kCellValueTag = 2;
+
+/* What the MIB and SB1 schedule, with the segment count found by cutting the cycle. */
+struct Scheduled {
+  uint32_t tag;       /* SIBSb-TypeAndTag / SIB-TypeAndTag alternative */
+  Schedule at;
+  uint32_t sib_index; /* in the cycle's SIB list */
+};
+
+const uint32_t kTagSysInfoType1 = 1, kTagSysInfoType2 = 2, kTagSysInfoType3 = 3, kTagSysInfoType5 = 5,
+               kTagSysInfoType7 = 7, kTagSysInfoType11 = 11, kTagSysInfoType12 = 12;
+/* In SIBSb-TypeAndTag; SIB-TypeAndTag has no SB entries and numbers SIB18 26. */
+const uint32_t kTagSbSysInfoTypeSB1 = 22, kTagSbSysInfoType18 = 28, kTagSibSysInfoType18 = 26;
+
+/* Every alternative used here but the first holds a CellValueTag (u8) at the start of the
+   union, sysInfoType7 nothing. */
+template <class TypeAndTag>
+void set_type_and_tag(TypeAndTag* t, uint32_t tag) {
+  t->t = tag;
+  if (tag == kTagSysInfoType1) {
+    t->u.sysInfoType1 = kPlmnValueTag;
+  } else if (tag != kTagSysInfoType7) {
+    const uint8_t value = kCellValueTag;
+    std::memcpy(&t->u, &value, sizeof value);
+  }
+}
+
+/* ---- The blocks --------------------------------------------------------------------------- */
+
+void build_mib(Sib& sib, const std::vector<Scheduled>& refs, const std::vector<uint32_t>& seg_counts) {
+  MasterInformationBlock* mib = make<MasterInformationBlock>();
+  asn1Init_UMTS_MasterInformationBlock(mib);
+  mib->mib_ValueTag = kMibValueTag;
+  mib->plmn_Type.t = 1; /* gsm-MAP */
+  mib->plmn_Type.u.gsm_MAP = make<PLMN_Type_gsm_MAP>();
+  set_plmn(&mib->plmn_Type.u.gsm_MAP->plmn_Identity, "262", "01");
+  for (const Scheduled& r : refs) {
+    SchedulingInformationSIBSb* e = make<SchedulingInformationSIBSb>();
+    set_type_and_tag(&e->sibSb_Type, r.tag);
+    set_scheduling(&e->scheduling, r.at, seg_counts[r.sib_index]);
+    append(&mib->sibSb_ReferenceList, e);
+  }
+  MKS_ENCODE(MasterInformationBlock, mib, sib);
+}
+
+void build_sb1(Sib& sib, const std::vector<Scheduled>& refs, const std::vector<uint32_t>& seg_counts) {
+  SysInfoTypeSB1* sb1 = make<SysInfoTypeSB1>();
+  asn1Init_UMTS_SysInfoTypeSB1(sb1);
+  for (const Scheduled& r : refs) {
+    SchedulingInformationSIB* e = make<SchedulingInformationSIB>();
+    set_type_and_tag(&e->sib_Type, r.tag);
+    set_scheduling(&e->scheduling, r.at, seg_counts[r.sib_index]);
+    append(&sb1->sib_ReferenceList, e);
+  }
+  MKS_ENCODE(SysInfoTypeSB1, sb1, sib);
+}
+
+void set_nas(NAS_SystemInformationGSM_MAP* nas, std::initializer_list<uint8_t> octets) {
+  nas->numocts = 0;
+  for (uint8_t o : octets) nas->data[nas->numocts++] = o;
+}
+
+void build_sib1(Sib& sib) {
+  SysInfoType1* s = make<SysInfoType1>();
+  asn1Init_UMTS_SysInfoType1(s);
+  set_nas(&s->cn_CommonGSM_MAP_NAS_SysInfo, {0x4E, 0x21}); /* LAC */
+  CN_DomainSysInfo* cs = make<CN_DomainSysInfo>();
+  asn1Init_UMTS_CN_DomainSysInfo(cs);
+  cs->cn_DomainIdentity = UMTS_CN_DomainIdentity_cs_domain;
+  cs->cn_Type.t = 1;
+  cs->cn_Type.u.gsm_MAP = make<NAS_SystemInformationGSM_MAP>();
+  set_nas(cs->cn_Type.u.gsm_MAP, {0x0A, 0x01}); /* T3212 60 min, ATT */
+  cs->cn_DRX_CycleLengthCoeff = 7;
+  append(&s->cn_DomainSysInfoList, cs);
+  CN_DomainSysInfo* ps = make<CN_DomainSysInfo>();
+  asn1Init_UMTS_CN_DomainSysInfo(ps);
+  ps->cn_DomainIdentity = UMTS_CN_DomainIdentity_ps_domain;
+  ps->cn_Type.t = 1;
+  ps->cn_Type.u.gsm_MAP = make<NAS_SystemInformationGSM_MAP>();
+  set_nas(ps->cn_Type.u.gsm_MAP, {0x05, 0x01}); /* RAC 5, network mode of operation II */
+  ps->cn_DRX_CycleLengthCoeff = 7;
+  append(&s->cn_DomainSysInfoList, ps);
+
+  s->m |= 1u << 0; /* ue-ConnTimersAndConstants: the defaults but T305 and N302 */
+  s->ue_ConnTimersAndConstants.t_305 = 3; /* m30 */
+  s->ue_ConnTimersAndConstants.n_302 = 5;
+  s->m |= 1u << 1; /* ue-IdleTimersAndConstants */
+  s->ue_IdleTimersAndConstants.t_300 = UMTS_T_300_ms2000;
+  s->ue_IdleTimersAndConstants.n_300 = 3;
+  s->ue_IdleTimersAndConstants.t_312 = 1;
+  s->ue_IdleTimersAndConstants.n_312 = UMTS_N_312_s1;
+  MKS_ENCODE(SysInfoType1, s, sib);
+}
+
+void build_sib2(Sib& sib) {
+  SysInfoType2* s = make<SysInfoType2>();
+  asn1Init_UMTS_SysInfoType2(s);
+  s->ura_IdentityList.n = 1;
+  set_bits(&s->ura_IdentityList.elem[0], 16, 0x0123);
+  MKS_ENCODE(SysInfoType2, s, sib);
+}
+
+void build_sib3(Sib& sib) {
+  SysInfoType3* s = make<SysInfoType3>();
+  asn1Init_UMTS_SysInfoType3(s);
+  s->sib4indicator = 0;
+  set_bits(&s->cellIdentity, 28, 0x01A2B3C);
+
+  CellSelectReselectInfoSIB_3_4* c = &s->cellSelectReselectInfo;
+  c->cellSelectQualityMeasure.t = 2; /* cpich-Ec-N0 */
+  c->cellSelectQualityMeasure.u.cpich_Ec_N0 = make<CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0>();
+  c->cellSelectQualityMeasure.u.cpich_Ec_N0->m = 1;
+  c->cellSelectQualityMeasure.u.cpich_Ec_N0->q_HYST_2_S = 2;
+  c->modeSpecificInfo.t = 1;
+  CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd* fdd = make<CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd>();
+  asn1Init_UMTS_CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd(fdd);
+  c->modeSpecificInfo.u.fdd = fdd;
+  fdd->m = (1u << 0) | (1u << 1) | (1u << 3);
+  fdd->s_Intrasearch = 6;  /* 12 dB */
+  fdd->s_Intersearch = 4;  /* 8 dB */
+  RAT_FDD_Info* gsm = make<RAT_FDD_Info>();
+  asn1Init_UMTS_RAT_FDD_Info(gsm);
+  gsm->rat_Identifier = 0; /* gsm */
+  gsm->s_SearchRAT = 2;
+  gsm->s_Limit_SearchRAT = 0;
+  append(&fdd->rat_List, gsm);
+  fdd->q_QualMin = -18;    /* dB */
+  fdd->q_RxlevMin = -58;   /* -115 dBm */
+  c->q_Hyst_l_S = 2;
+  c->t_Reselection_S = 1;
+  c->maxAllowedUL_TX_Power = 24;
+
+  CellAccessRestriction* a = &s->cellAccessRestriction;
+  a->cellBarred.t = 2; /* notBarred */
+  a->cellReservedForOperatorUse = UMTS_ReservedIndicator_notReserved;
+  a->cellReservationExtension = UMTS_ReservedIndicator_notReserved;
+  a->m = 1;
+  a->accessClassBarredList.n = 16;
+  for (uint32_t i = 0; i < 16; i++) a->accessClassBarredList.elem[i] = UMTS_AccessClassBarred_notBarred;
+
+  /* Extensions up to Rel-7: deltaQrxlevmin and deferred reading of SIB11/12. */
+  s->m |= 1;
+  SysInfoType3_v4b0NonCriticalExtensions* v4b0 = &s->v4b0NonCriticalExtensions;
+  v4b0->m = 1;
+  SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension* v590 = &v4b0->v590NonCriticalExtension;
+  v590->sysInfoType3_v590ext.m = 1;
+  v590->sysInfoType3_v590ext.cellSelectReselectInfo_v590ext.m = 1;
+  v590->sysInfoType3_v590ext.cellSelectReselectInfo_v590ext.deltaQrxlevmin = -2; /* -4 dB */
+  v590->m = 1;
+  v590->v5c0NoncriticalExtension.m = 1;
+  v590->v5c0NoncriticalExtension.v670NonCriticalExtension.m = 1;
+  SysInfoType3_v770ext_IEs* v770 =
+      &v590->v5c0NoncriticalExtension.v670NonCriticalExtension.v770NonCriticalExtension.sysInfoType3_v770ext;
+  v770->m = 1; /* deferredMeasurementControlReadingSupport, with no mode-specific part */
+  MKS_ENCODE(SysInfoType3, s, sib);
+}
+
+/* A common transport channel's formats: TTI (tti10 1 ... tti80 4), RLC sizes as sizeType1
+   of octet mode type 2 (8 * sizeType1 + 48 bits), transport blocks per format, coding. */
+TransportFormatSet common_tfs(uint32_t tti_tag, std::initializer_list<uint8_t> size_type1,
+                              std::initializer_list<uint32_t> blocks, uint32_t coding_tag, uint32_t rate,
+                              uint16_t rate_matching, uint32_t crc) {
+  TransportFormatSet tfs;
+  asn1Init_UMTS_TransportFormatSet(&tfs);
+  tfs.t = 2; /* commonTransChTFS */
+  CommonTransChTFS* c = make<CommonTransChTFS>();
+  asn1Init_UMTS_CommonTransChTFS(c);
+  tfs.u.commonTransChTFS = c;
+  c->tti.t = tti_tag;
+  CommonDynamicTF_InfoList* list = make<CommonDynamicTF_InfoList>();
+  switch (tti_tag) {
+    case 1:
+      c->tti.u.tti10 = list;
+      break;
+    case 2:
+      c->tti.u.tti20 = list;
+      break;
+    case 3:
+      c->tti.u.tti40 = list;
+      break;
+    default:
+      c->tti.t = 4;
+      c->tti.u.tti80 = list;
+      break;
+  }
+  for (uint8_t size : size_type1) {
+    CommonDynamicTF_Info* tf = make<CommonDynamicTF_Info>();
+    asn1Init_UMTS_CommonDynamicTF_Info(tf);
+    tf->rlc_Size.t = 1;
+    tf->rlc_Size.u.fdd = make<CommonDynamicTF_Info_rlc_Size_fdd>();
+    tf->rlc_Size.u.fdd->octetModeRLC_SizeInfoType2.t = 1;
+    tf->rlc_Size.u.fdd->octetModeRLC_SizeInfoType2.u.sizeType1 = size;
+    for (uint32_t n : blocks) {
+      NumberOfTransportBlocks* nb = make<NumberOfTransportBlocks>();
+      if (n <= 1) {
+        nb->t = n + 1; /* zero, one */
+      } else {
+        nb->t = 3;
+        nb->u.small = static_cast<uint8_t>(n);
+      }
+      append(&tf->numberOfTbSizeList, nb);
+    }
+    tf->logicalChannelList.t = 1; /* allSizes */
+    append(list, tf);
+  }
+  c->semistaticTF_Information.channelCodingType.t = coding_tag;
+  if (coding_tag == 2) c->semistaticTF_Information.channelCodingType.u.convolutional = rate;
+  c->semistaticTF_Information.rateMatchingAttribute = rate_matching;
+  c->semistaticTF_Information.crc_Size = crc;
+  return tfs;
+}
+
+TFCS tfcs_2bit(std::initializer_list<uint8_t> ctfcs) {
+  TFCS t;
+  asn1Init_UMTS_TFCS(&t);
+  t.t = 1;
+  ExplicitTFCS_Configuration* e = make<ExplicitTFCS_Configuration>();
+  t.u.normalTFCI_Signalling = e;
+  e->t = 1; /* complete */
+  TFCS_ReconfAdd* add = make<TFCS_ReconfAdd>();
+  e->u.complete = add;
+  add->ctfcSize.t = 1;
+  add->ctfcSize.u.ctfc2Bit = make<TFCS_ReconfAdd_ctfcSize_ctfc2Bit>();
+  for (uint8_t v : ctfcs) {
+    TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element* el = make<TFCS_ReconfAdd_ctfcSize_ctfc2Bit_element>();
+    el->ctfc2 = v;
+    append(add->ctfcSize.u.ctfc2Bit, el);
+  }
+  return t;
+}
+
+void build_sib5(Sib& sib) {
+  SysInfoType5* s = make<SysInfoType5>();
+  asn1Init_UMTS_SysInfoType5(s);
+  s->sib6indicator = 0;
+  s->pich_PowerOffset = -7;
+  s->modeSpecificInfo.t = 1;
+  s->modeSpecificInfo.u.fdd = make<SysInfoType5_modeSpecificInfo_fdd>();
+  s->modeSpecificInfo.u.fdd->aich_PowerOffset = -6;
+  s->m |= 1; /* primaryCCPCH-Info */
+  s->primaryCCPCH_Info.t = 1;
+  s->primaryCCPCH_Info.u.fdd = make<PrimaryCCPCH_Info_fdd>();
+  s->primaryCCPCH_Info.u.fdd->tx_DiversityIndicator = 0;
+
+  /* The PRACH: all 16 signatures, SF64, RACH of 168-bit blocks at 20 ms. */
+  PRACH_SystemInformation* prach = make<PRACH_SystemInformation>();
+  asn1Init_UMTS_PRACH_SystemInformation(prach);
+  prach->prach_RACH_Info.modeSpecificInfo.t = 1;
+  PRACH_RACH_Info_modeSpecificInfo_fdd* ri = make<PRACH_RACH_Info_modeSpecificInfo_fdd>();
+  prach->prach_RACH_Info.modeSpecificInfo.u.fdd = ri;
+  set_bits(&ri->availableSignatures, 16, 0xFFFF);
+  ri->availableSF = UMTS_SF_PRACH_sfpr64;
+  ri->preambleScramblingCodeWordNumber = 0;
+  ri->puncturingLimit = UMTS_PuncturingLimit_pl1;
+  set_bits(&ri->availableSubChannelNumbers, 12, 0xFFF);
+  prach->transportChannelIdentity = 15;
+  prach->m |= (1u << 0) | (1u << 1) | (1u << 4);
+  prach->rach_TransportFormatSet = common_tfs(2, {15}, {1}, 2, UMTS_CodingRate_half, 150, UMTS_CRC_Size_crc16);
+  prach->rach_TFCS = tfcs_2bit({0, 1});
+  prach->ac_To_ASC_MappingTable.n = 7;
+  for (uint32_t i = 0; i < 7; i++) prach->ac_To_ASC_MappingTable.elem[i] = i < 5 ? 1 : 0;
+  prach->modeSpecificInfo.t = 1;
+  PRACH_SystemInformation_modeSpecificInfo_fdd* pf = make<PRACH_SystemInformation_modeSpecificInfo_fdd>();
+  prach->modeSpecificInfo.u.fdd = pf;
+  pf->m = 0x1F;
+  pf->primaryCPICH_TX_Power = 33;
+  pf->constantValue = -20;
+  pf->prach_PowerOffset.powerRampStep = 2;
+  pf->prach_PowerOffset.preambleRetransMax = 8;
+  pf->rach_TransmissionParameters.mmax = 4;
+  pf->rach_TransmissionParameters.nb01Min = 0;
+  pf->rach_TransmissionParameters.nb01Max = 10;
+  pf->aich_Info.channelisationCode256 = 2;
+  pf->aich_Info.sttd_Indicator = 0;
+  pf->aich_Info.aich_TransmissionTiming = UMTS_AICH_TransmissionTiming_e1;
+  append(&s->prach_SystemInformationList, prach);
+
+  /* One S-CCPCH, SF64 code 1, carrying the PCH and a FACH, with its PICH. */
+  SCCPCH_SystemInformation* sc = make<SCCPCH_SystemInformation>();
+  asn1Init_UMTS_SCCPCH_SystemInformation(sc);
+  sc->secondaryCCPCH_Info.modeSpecificInfo.t = 1;
+  SecondaryCCPCH_Info_modeSpecificInfo_fdd* sf = make<SecondaryCCPCH_Info_modeSpecificInfo_fdd>();
+  asn1Init_UMTS_SecondaryCCPCH_Info_modeSpecificInfo_fdd(sf);
+  sc->secondaryCCPCH_Info.modeSpecificInfo.u.fdd = sf;
+  sf->dummy1 = UMTS_PCPICH_UsageForChannelEst_mayBeUsed;
+  sf->sttd_Indicator = 0;
+  sf->sf_AndCodeNumber.t = 5; /* sf64 */
+  sf->sf_AndCodeNumber.u.sf64 = 1;
+  sf->pilotSymbolExistence = 0;
+  sf->tfci_Existence = 1;
+  sf->positionFixedOrFlexible = UMTS_PositionFixedOrFlexible_flexible;
+  sc->m = 0x7;
+  sc->tfcs = tfcs_2bit({0, 1, 2, 3});
+  FACH_PCH_Information* pch = make<FACH_PCH_Information>();
+  pch->transportFormatSet = common_tfs(1, {4}, {0, 1}, 2, UMTS_CodingRate_half, 230, UMTS_CRC_Size_crc16);
+  pch->transportChannelIdentity = 12;
+  pch->ctch_Indicator = 0;
+  append(&sc->fach_PCH_InformationList, pch);
+  FACH_PCH_Information* fach = make<FACH_PCH_Information>();
+  fach->transportFormatSet = common_tfs(1, {15}, {0, 1}, 2, UMTS_CodingRate_half, 220, UMTS_CRC_Size_crc16);
+  fach->transportChannelIdentity = 13;
+  fach->ctch_Indicator = 0;
+  append(&sc->fach_PCH_InformationList, fach);
+  sc->pich_Info.t = 1;
+  sc->pich_Info.u.fdd = make<PICH_Info_fdd>();
+  sc->pich_Info.u.fdd->channelisationCode256 = 3;
+  sc->pich_Info.u.fdd->pi_CountPerFrame = UMTS_PI_CountPerFrame_e72;
+  sc->pich_Info.u.fdd->sttd_Indicator = 0;
+  append(&s->sCCPCH_SystemInformationList, sc);
+  MKS_ENCODE(SysInfoType5, s, sib);
+}
+
+void build_sib7(Sib& sib) {
+  SysInfoType7* s = make<SysInfoType7>();
+  asn1Init_UMTS_SysInfoType7(s);
+  s->modeSpecificInfo.t = 1;
+  s->modeSpecificInfo.u.fdd = make<SysInfoType7_modeSpecificInfo_fdd>();
+  s->modeSpecificInfo.u.fdd->ul_Interference = -105; /* dBm */
+  s->prach_Information_SIB5_List.n = 1;
+  s->prach_Information_SIB5_List.elem[0] = 1;
+  s->m |= 1u << 1;
+  s->expirationTimeFactor = 2;
+  MKS_ENCODE(SysInfoType7, s, sib);
+}
+
+/* The intra-frequency neighbours: primary scrambling codes and Ec/N0 offsets. */
+struct Neighbour {
+  uint16_t psc;
+  int8_t q_offset2;
+};
+const Neighbour kIntraNeighbours[] = {{124, 0}, {131, 0}, {140, -2}, {152, 0}, {163, 0}, {171, 2},
+                                      {188, 0}, {197, 0}, {203, -2}, {215, 0}, {226, 0}, {240, 0}};
+struct GsmNeighbour {
+  uint8_t ncc, bcc;
+  uint16_t arfcn;
+};
+const GsmNeighbour kGsmNeighbours[] = {{3, 1, 62}, {3, 4, 70}, {5, 2, 81}};
+
+IntraFreqMeasurementSysInfo_ECN0 intra_freq(size_t neighbours, bool for_sib12) {
+  IntraFreqMeasurementSysInfo_ECN0 m;
+  asn1Init_UMTS_IntraFreqMeasurementSysInfo_ECN0(&m);
+  m.m |= 1u << 0;
+  IntraFreqCellInfoSI_List_ECN0* list = &m.intraFreqCellInfoSI_List;
+  for (size_t i = 0; i < neighbours; i++) {
+    NewIntraFreqCellSI_ECN0* cell = make<NewIntraFreqCellSI_ECN0>();
+    asn1Init_UMTS_NewIntraFreqCellSI_ECN0(cell);
+    cell->m = 1;
+    cell->intraFreqCellID = static_cast<uint8_t>(i + 1);
+    cell->cellInfo.modeSpecificInfo.t = 1;
+    CellInfoSI_ECN0_modeSpecificInfo_fdd* fdd = make<CellInfoSI_ECN0_modeSpecificInfo_fdd>();
+    cell->cellInfo.modeSpecificInfo.u.fdd = fdd;
+    fdd->m = 1;
+    fdd->primaryCPICH_Info.primaryScramblingCode = kIntraNeighbours[i].psc;
+    fdd->readSFN_Indicator = 0;
+    fdd->tx_DiversityIndicator = 0;
+    if (kIntraNeighbours[i].q_offset2 != 0) {
+      cell->cellInfo.m |= 1u << 1;
+      CellSelectReselectInfoSIB_11_12_ECN0* r = &cell->cellInfo.cellSelectionReselectionInfo;
+      asn1Init_UMTS_CellSelectReselectInfoSIB_11_12_ECN0(r);
+      r->q_Offset2S_N = kIntraNeighbours[i].q_offset2;
+      r->modeSpecificInfo.t = 1;
+      r->modeSpecificInfo.u.fdd = make<CellSelectReselectInfoSIB_11_12_ECN0_modeSpecificInfo_fdd>();
+    }
+    append(&list->newIntraFreqCellList, cell);
+  }
+  if (for_sib12) {
+    m.m |= (1u << 1) | (1u << 2) | (1u << 3);
+    m.intraFreqMeasQuantity.filterCoefficient = UMTS_FilterCoefficient_fc3;
+    m.intraFreqMeasQuantity.modeSpecificInfo.t = 1;
+    m.intraFreqMeasQuantity.modeSpecificInfo.u.fdd = make<IntraFreqMeasQuantity_modeSpecificInfo_fdd>();
+    m.intraFreqMeasQuantity.modeSpecificInfo.u.fdd->intraFreqMeasQuantity_FDD = 0; /* cpich-Ec-N0 */
+    m.intraFreqReportingQuantityForRACH.sfn_SFN_OTD_Type = UMTS_SFN_SFN_OTD_Type_noReport;
+    m.intraFreqReportingQuantityForRACH.modeSpecificInfo.t = 1;
+    m.intraFreqReportingQuantityForRACH.modeSpecificInfo.u.fdd = make<IntraFreqReportingQuantityForRACH_modeSpecificInfo_fdd>();
+    m.intraFreqReportingQuantityForRACH.modeSpecificInfo.u.fdd->intraFreqRepQuantityRACH_FDD = 0; /* cpich-EcN0 */
+    m.maxReportedCellsOnRACH = UMTS_MaxReportedCellsOnRACH_currentCell;
+  }
+  return m;
+}
+
+MeasurementControlSysInfo measurement_control(size_t neighbours, bool gsm, bool for_sib12) {
+  MeasurementControlSysInfo mc;
+  asn1Init_UMTS_MeasurementControlSysInfo(&mc);
+  mc.use_of_HCS.t = 1; /* hcs-not-used */
+  MeasurementControlSysInfo_use_of_HCS_hcs_not_used* nu = make<MeasurementControlSysInfo_use_of_HCS_hcs_not_used>();
+  asn1Init_UMTS_MeasurementControlSysInfo_use_of_HCS_hcs_not_used(nu);
+  mc.use_of_HCS.u.hcs_not_used = nu;
+  nu->cellSelectQualityMeasure.t = 2; /* cpich-Ec-N0 */
+  MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0* ec =
+      make<MeasurementControlSysInfo_use_of_HCS_hcs_not_used_cellSelectQualityMeasure_cpich_Ec_N0>();
+  nu->cellSelectQualityMeasure.u.cpich_Ec_N0 = ec;
+  ec->m = 1;
+  ec->intraFreqMeasurementSysInfo = intra_freq(neighbours, for_sib12);
+  if (gsm) {
+    nu->m = 1;
+    nu->interRATMeasurementSysInfo.m = 1;
+    InterRATCellInfoList_B* l = &nu->interRATMeasurementSysInfo.interRATCellInfoList;
+    l->removedInterRATCellList.t = 3; /* removeNoInterRATCells */
+    for (size_t i = 0; i < sizeof kGsmNeighbours / sizeof kGsmNeighbours[0]; i++) {
+      NewInterRATCell_B* cell = make<NewInterRATCell_B>();
+      asn1Init_UMTS_NewInterRATCell_B(cell);
+      cell->m = 1;
+      cell->interRATCellID = static_cast<uint8_t>(i);
+      cell->technologySpecificInfo.t = 1;
+      NewInterRATCell_B_technologySpecificInfo_gsm* g = make<NewInterRATCell_B_technologySpecificInfo_gsm>();
+      asn1Init_UMTS_NewInterRATCell_B_technologySpecificInfo_gsm(g);
+      cell->technologySpecificInfo.u.gsm = g;
+      g->bsic.ncc = kGsmNeighbours[i].ncc;
+      g->bsic.bcc = kGsmNeighbours[i].bcc;
+      g->frequency_band = UMTS_Frequency_Band_dcs1800BandUsed;
+      g->bcch_ARFCN = kGsmNeighbours[i].arfcn;
+      append(&l->newInterRATCellList, cell);
+    }
+  }
+  return mc;
+}
+
+void build_sib11(Sib& sib) {
+  SysInfoType11* s = make<SysInfoType11>();
+  asn1Init_UMTS_SysInfoType11(s);
+  s->sib12indicator = 1;
+  s->measurementControlSysInfo = measurement_control(sizeof kIntraNeighbours / sizeof kIntraNeighbours[0], true, false);
+  MKS_ENCODE(SysInfoType11, s, sib);
+}
+
+void build_sib12(Sib& sib) {
+  SysInfoType12* s = make<SysInfoType12>();
+  asn1Init_UMTS_SysInfoType12(s);
+  s->measurementControlSysInfo = measurement_control(4, false, true);
+  MKS_ENCODE(SysInfoType12, s, sib);
+}
+
+void build_sib18(Sib& sib) {
+  SysInfoType18* s = make<SysInfoType18>();
+  asn1Init_UMTS_SysInfoType18(s);
+  /* Idle mode: the intra-frequency neighbours share the cell's PLMN; the GSM ones belong
+     to a national roaming partner, MCC 262 MNC 02. */
+  s->m |= 1;
+  PLMNIdentitiesOfNeighbourCells* idle = &s->idleModePLMNIdentities;
+  idle->m = (1u << 0) | (1u << 2);
+  for (size_t i = 0; i < 4; i++) {
+    PLMNsOfIntraFreqCellsList_element* e = make<PLMNsOfIntraFreqCellsList_element>();
+    if (i == 0) {
+      e->m = 1;
+      set_plmn(&e->plmn_Identity, "262", "01");
+    }
+    append(&idle->plmnsOfIntraFreqCellsList, e);
+  }
+  for (size_t i = 0; i < 3; i++) {
+    PLMNsOfInterRATCellsList_element* e = make<PLMNsOfInterRATCellsList_element>();
+    if (i == 0) {
+      e->m = 1;
+      set_plmn(&e->plmn_Identity, "262", "02");
+    }
+    append(&idle->plmnsOfInterRATCellsList, e);
+  }
+  MKS_ENCODE(SysInfoType18, s, sib);
+}
+
+/* ---- The cycle ---------------------------------------------------------------------------- */
+
+enum CycleIndex : uint32_t { kMib, kSb1, kSib1, kSib2, kSib3, kSib5, kSib7, kSib11, kSib12, kSib18, kCycleSize };
+
+std::string hex(const uint8_t* data, size_t n) {
+  static const char digits[] = "0123456789abcdef";
+  std::string s;
+  s.reserve(n * 2);
+  for (size_t i = 0; i < n; i++) {
+    s += digits[data[i] >> 4];
+    s += digits[data[i] & 0x0F];
+  }
+  return s;
+}
+
+/* Cuts the cycle; on failure names the SIB and stops. */
+std::vector<umts_bch_block> cut(const std::vector<Sib>& sibs) {
+  std::vector<umts_bch_sib> in(sibs.size());
+  for (size_t i = 0; i < sibs.size(); i++) {
+    in[i].sib_type = sibs[i].sib_type;
+    in[i].data = sibs[i].bytes.data();
+    in[i].numbits = sibs[i].numbits;
+    in[i].own_block = i == kMib ? 1 : 0;
+  }
+  std::vector<umts_bch_block> blocks(256);
+  uint32_t count = 0, failed = 0;
+  const uint16_t first_sfn_prime = 0; /* the cycle starts at SFN 0 */
+  umts_bch_status st = umts_bch_segment(in.data(), static_cast<uint32_t>(in.size()), first_sfn_prime, blocks.data(),
+                                        static_cast<uint32_t>(blocks.size()), &count, &failed);
+  if (st != umts_bch_ok) {
+    std::fprintf(stderr, "mksamples: cannot cut %s into transport blocks: %s\n",
+                 failed < sibs.size() ? sibs[failed].label : "the cycle", umts_bch_status_text(st));
+    std::exit(1);
+  }
+  blocks.resize(count);
+  return blocks;
+}
+
+std::string describe(const umts_bch_block& b, const std::vector<Sib>& sibs) {
+  std::string s = "SFN' " + std::to_string(b.sfn_prime) + " " + umts_bch_payload_name(b.payload) + ":";
+  for (uint32_t i = 0; i < b.piece_count; i++) {
+    const umts_bch_piece& p = b.pieces[i];
+    s += i == 0 ? " " : "; ";
+    s += sibs[p.sib].label;
+    if (p.seg_count == 1) {
+      s += " complete (" + std::to_string(p.numbits) + " bits)";
+    } else {
+      s += " segment " + std::to_string(p.segment + 1) + "/" + std::to_string(p.seg_count) + " (" +
+           std::to_string(p.numbits) + " bits)";
+    }
+  }
+  return s;
+}
+
+bool write_file(const std::string& path, const std::string& text) {
+  FILE* f = std::fopen(path.c_str(), "w");
+  if (f == nullptr) {
+    std::fprintf(stderr, "mksamples: cannot write %s: %s\n", path.c_str(), std::strerror(errno));
+    return false;
+  }
+  const bool ok = std::fwrite(text.data(), 1, text.size(), f) == text.size();
+  return std::fclose(f) == 0 && ok;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 2 || argv[1][0] == '-') {
+    std::fprintf(stderr, "Usage: mksamples DIR\nWrites DIR/fdd_cell.bch and DIR/fdd_cell_sibs.txt.\n");
+    return 2;
+  }
+  const std::string dir = argv[1];
+  if (rtInitContext(&g_ctx) != 0) die("cannot initialise a runtime context");
+
+  std::vector<Sib> sibs(kCycleSize);
+  sibs[kMib] = {"mib", "MIB", 0, {}, 0};
+  sibs[kSb1] = {"sb1", "SB1", 27, {}, 0};
+  sibs[kSib1] = {"sib1", "SIB1", 1, {}, 0};
+  sibs[kSib2] = {"sib2", "SIB2", 2, {}, 0};
+  sibs[kSib3] = {"sib3", "SIB3", 3, {}, 0};
+  sibs[kSib5] = {"sib5", "SIB5", 5, {}, 0};
+  sibs[kSib7] = {"sib7", "SIB7", 7, {}, 0};
+  sibs[kSib11] = {"sib11", "SIB11", 11, {}, 0};
+  sibs[kSib12] = {"sib12", "SIB12", 12, {}, 0};
+  sibs[kSib18] = {"sib18", "SIB18", 26, {}, 0};
+
+  build_sib1(sibs[kSib1]);
+  build_sib2(sibs[kSib2]);
+  build_sib3(sibs[kSib3]);
+  build_sib5(sibs[kSib5]);
+  build_sib7(sibs[kSib7]);
+  build_sib11(sibs[kSib11]);
+  build_sib12(sibs[kSib12]);
+  build_sib18(sibs[kSib18]);
+
+  /* Scheduling: MIB every 8 frames at SFN 0; SB1, SIB1, SIB3 and SIB7 often, the rest less. */
+  const std::vector<Scheduled> mib_refs = {
+      {kTagSbSysInfoTypeSB1, {64, 2}, kSb1},  {kTagSysInfoType1, {32, 4}, kSib1},
+      {kTagSysInfoType2, {128, 10}, kSib2},   {kTagSysInfoType3, {16, 6}, kSib3},
+      {kTagSysInfoType5, {32, 12}, kSib5},    {kTagSysInfoType7, {16, 14}, kSib7},
+      {kTagSysInfoType11, {128, 18}, kSib11}, {kTagSysInfoType12, {128, 42}, kSib12},
+      {kTagSbSysInfoType18, {256, 50}, kSib18}};
+  /* SB1 carries the references of the measurement blocks too, as a UE that reads SB1 first
+     finds them there. */
+  const std::vector<Scheduled> sb1_refs = {{kTagSysInfoType11, {128, 18}, kSib11},
+                                           {kTagSysInfoType12, {128, 42}, kSib12},
+                                           {kTagSibSysInfoType18, {256, 50}, kSib18}};
+
+  /* The segment counts go into the scheduling, so cut once with counts of 1, then again. */
+  std::vector<uint32_t> seg_counts(kCycleSize, 1);
+  std::vector<umts_bch_block> blocks;
+  for (int pass = 0; pass < 3; pass++) {
+    build_sb1(sibs[kSb1], sb1_refs, seg_counts);
+    build_mib(sibs[kMib], mib_refs, seg_counts);
+    blocks = cut(sibs);
+    std::vector<uint32_t> found(kCycleSize, 1);
+    for (const umts_bch_block& b : blocks)
+      for (uint32_t i = 0; i < b.piece_count; i++) found[b.pieces[i].sib] = b.pieces[i].seg_count;
+    if (found == seg_counts) break;
+    seg_counts = found;
+  }
+  for (const umts_bch_block& b : blocks)
+    for (uint32_t i = 0; i < b.piece_count; i++)
+      if (b.pieces[i].seg_count != seg_counts[b.pieces[i].sib]) die("segment counts do not settle");
+
+  std::string bch =
+      "# One broadcast cycle of a UMTS FDD cell: MCC 262, MNC 01, LAC 0x4E21, cell identity\n"
+      "# 0x01A2B3C, primary scrambling code 123. Written by mksamples (make samples).\n"
+      "#\n"
+      "# One BCH transport block per line, in hexadecimal: a BCCH-BCH-Message of TS 25.331,\n"
+      "# 246 bits in 31 octets, SFN' counting up by one per block (here the blocks follow\n"
+      "# each other; on air each stands at the position that the MIB and SB1 schedule). The\n"
+      "# comment before each block says what it carries. Decode with: sibdump samples/fdd_cell.bch\n";
+  for (const umts_bch_block& b : blocks) {
+    bch += "\n# " + describe(b, sibs) + "\n";
+    bch += hex(b.data, UMTS_BCH_BLOCK_OCTETS) + "\n";
+  }
+  std::string whole =
+      "# The SIBs of samples/fdd_cell.bch, whole: '<name> <hex of the unaligned PER encoding>'.\n"
+      "# Written by mksamples (make samples). Decode with: sibdump --sibs samples/fdd_cell_sibs.txt\n";
+  for (const Sib& s : sibs)
+    whole += "\n# " + std::string(s.label) + ", " + std::to_string(s.numbits) + " bits\n" + s.name + " " +
+             hex(s.bytes.data(), s.bytes.size()) + "\n";
+
+  const bool ok = write_file(dir + "/fdd_cell.bch", bch) && write_file(dir + "/fdd_cell_sibs.txt", whole);
+  rtFreeContext(&g_ctx);
+  if (!ok) return 1;
+  std::printf("mksamples: %zu SIBs in %zu transport blocks written to %s\n", sibs.size(), blocks.size(), dir.c_str());
+  return 0;
+}

@@ -1,0 +1,383 @@
+/*
+ * sibdump: BCH transport blocks (or whole SIBs) from a text file through libsibdecoder_umts,
+ * one JSON line per converted block on standard output.
+ */
+#include <errno.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+
+#include "umts_record_desc.h"
+#include "umts_rrc_rt.h"
+#include "umts_sib_decoder.h"
+#include "umts_sib_log.h"
+
+namespace {
+
+constexpr size_t kMaxBchOctets = 64;
+constexpr size_t kMaxSibOctets = 2048; /* what umts_sib_msg_decoder accepts */
+
+const char kUsage[] =
+    "Usage: sibdump [OPTIONS] [FILE]\n"
+    "\n"
+    "Decodes the system information of a UMTS cell with libsibdecoder_umts and writes every\n"
+    "block that the library converts as one JSON line on standard output.\n"
+    "\n"
+    "Input (FILE, or standard input when FILE is absent or '-'):\n"
+    "  one BCH transport block per line, in hexadecimal; blanks may stand between the digits,\n"
+    "  '#' starts a comment, empty lines are ignored. The blocks are handed in order to\n"
+    "  umts_sib_decoder, which collects the segments of each SIB across blocks.\n"
+    "\n"
+    "Options:\n"
+    "  --sibs             lines are whole SIBs, '<name> <hex>', handed to umts_sib_msg_decoder;\n"
+    "                     names: %s\n"
+    "  --asn1-text FILE   write the text that the library prints on standard output (the\n"
+    "                     decoded ASN.1 values and its messages) to FILE; '-' means standard\n"
+    "                     error. Without this option that text is discarded.\n"
+    "  --log-level N      threshold of the library's log (zvtLogLevelThreshold): above 1 shows\n"
+    "                     errors, above 5 also traces; written to standard error. Default 0.\n"
+    "  -h, --help         show this help\n"
+    "\n"
+    "Output: after each input line, one line per block converted by that call, e.g.\n"
+    "  {\"line\":12,\"block\":\"sib3\",\"record\":{\"presence_bitmask\":1,...}}\n"
+    "Fields appear under their names in the library's records; integers are numbers,\n"
+    "booleans true/false, octet arrays hex strings, lists hold their used entries only,\n"
+    "a choice shows its one chosen member, and optional fields appear only when present.\n"
+    "\n"
+    "Messages about bad input lines (bad hex digit, odd digit count, unknown SIB name, empty\n"
+    "block, block too long: %u octets for BCH, %u for --sibs) go to standard error with the\n"
+    "line number; the line is skipped. A summary ends the run on standard error.\n"
+    "\n"
+    "Exit status: 0 all lines read, 1 some lines were bad, 2 usage error or unreadable input.\n"
+    "\n"
+    "Example:\n"
+    "  sibdump samples/fdd_cell.bch\n"
+    "  sibdump --sibs --asn1-text asn1.txt samples/fdd_cell_sibs.txt | grep '\"block\":\"mib\"'\n";
+
+struct Options {
+  bool sibs = false;
+  bool help = false;
+  const char* input = nullptr;
+  const char* asn1_text = nullptr;
+  unsigned long log_level = 0;
+  bool log_level_set = false;
+};
+
+struct Counts {
+  unsigned long lines = 0;
+  unsigned long blocks = 0;
+  unsigned long records = 0;
+  unsigned long bad = 0;
+};
+
+/* The sub-records of umts_sib_set, from its description: name and slot (= presence bit). */
+std::string sib_names() {
+  const umts_record_desc* set = describe_umts_sib_set();
+  std::string names;
+  for (uint32_t i = 0; i < set->field_count; i++) {
+    if (set->fields[i].cond < 0) continue;
+    if (!names.empty()) names += ", ";
+    names += set->fields[i].name;
+  }
+  return names;
+}
+
+int sib_id_of(const char* name, size_t length) {
+  const umts_record_desc* set = describe_umts_sib_set();
+  for (uint32_t i = 0; i < set->field_count; i++) {
+    const umts_field_desc& f = set->fields[i];
+    if (f.cond >= 0 && std::strlen(f.name) == length && std::memcmp(f.name, name, length) == 0) return f.cond;
+  }
+  return -1;
+}
+
+void usage_text(FILE* out) {
+  std::fprintf(out, kUsage, sib_names().c_str(), static_cast<unsigned>(kMaxBchOctets),
+               static_cast<unsigned>(kMaxSibOctets));
+}
+
+bool parse_args(int argc, char** argv, Options* opt) {
+  for (int i = 1; i < argc; i++) {
+    const char* a = argv[i];
+    const char* value = nullptr;
+    auto take_value = [&](const char* name) -> bool {
+      const size_t n = std::strlen(name);
+      if (std::strncmp(a, name, n) != 0) return false;
+      if (a[n] == '=') {
+        value = a + n + 1;
+        return true;
+      }
+      if (a[n] != '\0') return false;
+      if (i + 1 >= argc) {
+        std::fprintf(stderr, "sibdump: option %s needs a value\n", name);
+        value = nullptr;
+        return true;
+      }
+      value = argv[++i];
+      return true;
+    };
+    if (std::strcmp(a, "-h") == 0 || std::strcmp(a, "--help") == 0) {
+      opt->help = true;
+    } else if (std::strcmp(a, "--sibs") == 0) {
+      opt->sibs = true;
+    } else if (take_value("--asn1-text")) {
+      if (value == nullptr) return false;
+      opt->asn1_text = value;
+    } else if (take_value("--log-level")) {
+      if (value == nullptr) return false;
+      char* end = nullptr;
+      errno = 0;
+      opt->log_level = std::strtoul(value, &end, 10);
+      if (*value == '\0' || *end != '\0' || errno != 0 || *value == '-' || opt->log_level > 0xFFFFFFFFul) {
+        std::fprintf(stderr, "sibdump: --log-level needs a number, not '%s'\n", value);
+        return false;
+      }
+      opt->log_level_set = true;
+    } else if (a[0] == '-' && a[1] != '\0') {
+      std::fprintf(stderr, "sibdump: unknown option '%s'\n", a);
+      return false;
+    } else if (opt->input != nullptr) {
+      std::fprintf(stderr, "sibdump: one input file only ('%s' and '%s')\n", opt->input, a);
+      return false;
+    } else {
+      opt->input = a;
+    }
+  }
+  return true;
+}
+
+int hex_value(unsigned char c) {
+  if (c >= '0' && c <= '9') return c - '0';
+  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
+  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+  return -1;
+}
+
+bool is_blank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\v' || c == '\f'; }
+
+/* Hex digits of text[0..length) into out; blanks are skipped. Returns false with a message. */
+bool parse_hex(const char* text, size_t length, uint8_t* out, size_t capacity, size_t* octets, char* why,
+               size_t why_size) {
+  size_t digits = 0;
+  for (size_t i = 0; i < length; i++) {
+    const unsigned char c = static_cast<unsigned char>(text[i]);
+    if (is_blank(static_cast<char>(c))) continue;
+    const int v = hex_value(c);
+    if (v < 0) {
+      if (c >= 0x20 && c < 0x7F) std::snprintf(why, why_size, "bad hex digit '%c' at column %zu", c, i + 1);
+      else std::snprintf(why, why_size, "bad hex digit (byte 0x%02x) at column %zu", c, i + 1);
+      return false;
+    }
+    if (digits / 2 < capacity) {
+      if (digits % 2 == 0) out[digits / 2] = static_cast<uint8_t>(v << 4);
+      else out[digits / 2] |= static_cast<uint8_t>(v);
+    }
+    digits++;
+  }
+  if (digits % 2 != 0) {
+    std::snprintf(why, why_size, "odd number of hex digits (%zu)", digits);
+    return false;
+  }
+  *octets = digits / 2;
+  if (*octets > capacity) {
+    std::snprintf(why, why_size, "block of %zu octets is longer than %zu", *octets, capacity);
+    return false;
+  }
+  return true;
+}
+
+struct Dumper {
+  FILE* json;
+  const char* input_name;
+  umts_sib_set* set;
+  std::string line_json;
+  Counts counts;
+};
+
+void bad_line(Dumper& d, unsigned long line, const char* why) {
+  /* The library's text may be going to standard error too: keep the order readable. */
+  std::fflush(stdout);
+  std::fprintf(stderr, "sibdump: %s:%lu: %s\n", d.input_name, line, why);
+  d.counts.bad++;
+}
+
+/* One JSON line per sub-record whose presence bit the last call set. */
+void write_records(Dumper& d, unsigned long line) {
+  const umts_record_desc* set_desc = describe_umts_sib_set();
+  const uint8_t* base = reinterpret_cast<const uint8_t*>(d.set);
+  for (uint32_t i = 0; i < set_desc->field_count; i++) {
+    const umts_field_desc& f = set_desc->fields[i];
+    if (f.cond < 0 || ((d.set->presence_bitmask >> f.cond) & 1u) == 0) continue;
+    std::string& out = d.line_json;
+    out.clear();
+    out += "{\"line\":";
+    out += std::to_string(line);
+    out += ",\"block\":\"";
+    out += f.name;
+    out += "\",\"record\":";
+    umts_json_append_record(out, f.elem_desc, base + f.offset);
+    out += "}\n";
+    std::fwrite(out.data(), 1, out.size(), d.json);
+    d.counts.records++;
+  }
+}
+
+void process_line(Dumper& d, bool sibs, unsigned long line, char* text, size_t length) {
+  /* A comment runs to the end of the line. */
+  const char* hash = static_cast<const char*>(std::memchr(text, '#', length));
+  if (hash != nullptr) length = static_cast<size_t>(hash - text);
+  size_t start = 0;
+  while (start < length && is_blank(text[start])) start++;
+  if (start == length) return;
+
+  static uint8_t bytes[kMaxSibOctets];
+  char why[160];
+  size_t octets = 0;
+  d.counts.lines++;
+  if (!sibs) {
+    if (!parse_hex(text + start, length - start, bytes, kMaxBchOctets, &octets, why, sizeof why)) {
+      bad_line(d, line, why);
+      return;
+    }
+    d.counts.blocks++;
+    d.set->presence_bitmask = 0;
+    umts_sib_decoder(bytes, d.set, static_cast<uint32_t>(octets));
+    write_records(d, line);
+    return;
+  }
+
+  size_t name_end = start;
+  while (name_end < length && !is_blank(text[name_end])) name_end++;
+  const int id = sib_id_of(text + start, name_end - start);
+  if (id < 0) {
+    std::snprintf(why, sizeof why, "unknown SIB name '%.*s' (expected one of %s)", static_cast<int>(name_end - start),
+                  text + start, sib_names().c_str());
+    bad_line(d, line, why);
+    return;
+  }
+  if (!parse_hex(text + name_end, length - name_end, bytes, kMaxSibOctets, &octets, why, sizeof why)) {
+    bad_line(d, line, why);
+    return;
+  }
+  if (octets == 0) {
+    bad_line(d, line, "empty block: no hex digits after the SIB name");
+    return;
+  }
+  d.counts.blocks++;
+  d.set->presence_bitmask = 0;
+  umts_sib_msg_decoder(static_cast<umts_sib_id>(id), bytes, d.set, static_cast<uint32_t>(octets));
+  write_records(d, line);
+}
+
+/* Standard output becomes the library's; JSON keeps the original descriptor. Returns the
+   JSON stream, or null with a message. */
+FILE* split_stdout(const char* asn1_text) {
+  std::fflush(stdout);
+  const int json_fd = dup(STDOUT_FILENO);
+  if (json_fd < 0) {
+    std::fprintf(stderr, "sibdump: cannot duplicate standard output: %s\n", std::strerror(errno));
+    return nullptr;
+  }
+  int target;
+  if (asn1_text == nullptr) target = open("/dev/null", O_WRONLY);
+  else if (std::strcmp(asn1_text, "-") == 0) target = dup(STDERR_FILENO);
+  else target = open(asn1_text, O_WRONLY | O_CREAT | O_TRUNC, 0644);
+  if (target < 0) {
+    std::fprintf(stderr, "sibdump: cannot open '%s' for the ASN.1 text: %s\n",
+                 asn1_text != nullptr ? asn1_text : "/dev/null", std::strerror(errno));
+    close(json_fd);
+    return nullptr;
+  }
+  if (dup2(target, STDOUT_FILENO) < 0) {
+    std::fprintf(stderr, "sibdump: cannot redirect standard output: %s\n", std::strerror(errno));
+    close(target);
+    close(json_fd);
+    return nullptr;
+  }
+  close(target);
+  rtxPrintSetStream(stdout);
+  FILE* json = fdopen(json_fd, "w");
+  if (json == nullptr) {
+    std::fprintf(stderr, "sibdump: cannot write JSON: %s\n", std::strerror(errno));
+    close(json_fd);
+    return nullptr;
+  }
+  static char json_buffer[1 << 16];
+  std::setvbuf(json, json_buffer, _IOFBF, sizeof json_buffer);
+  return json;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  Options opt;
+  if (!parse_args(argc, argv, &opt)) {
+    std::fprintf(stderr, "Try 'sibdump --help'.\n");
+    return 2;
+  }
+  if (opt.help) {
+    usage_text(stdout);
+    return 0;
+  }
+
+  FILE* in = stdin;
+  const char* input_name = "<stdin>";
+  if (opt.input != nullptr && std::strcmp(opt.input, "-") != 0) {
+    in = std::fopen(opt.input, "r");
+    if (in == nullptr) {
+      std::fprintf(stderr, "sibdump: cannot open '%s': %s\n", opt.input, std::strerror(errno));
+      return 2;
+    }
+    input_name = opt.input;
+  }
+
+  /* The result record is large (fixed arrays of SIB5): one, zeroed, for the whole run. */
+  umts_sib_set* set = static_cast<umts_sib_set*>(std::calloc(1, sizeof(umts_sib_set)));
+  if (set == nullptr) {
+    std::fprintf(stderr, "sibdump: out of memory\n");
+    if (in != stdin) std::fclose(in);
+    return 2;
+  }
+  FILE* json = split_stdout(opt.asn1_text);
+  if (json == nullptr) {
+    std::free(set);
+    if (in != stdin) std::fclose(in);
+    return 2;
+  }
+  if (opt.log_level_set) zvtLogLevelThreshold = static_cast<unsigned int>(opt.log_level);
+
+  Dumper d{json, input_name, set, std::string(), Counts()};
+  d.line_json.reserve(1 << 16);
+  char* text = nullptr;
+  size_t capacity = 0;
+  unsigned long line = 0;
+  ssize_t length;
+  while ((length = getline(&text, &capacity, in)) >= 0) {
+    line++;
+    process_line(d, opt.sibs, line, text, static_cast<size_t>(length));
+  }
+  const bool read_error = std::ferror(in) != 0;
+  std::free(text);
+  if (in != stdin) std::fclose(in);
+
+  rtxPrintFlush();
+  std::fflush(stdout);
+  const bool write_error = std::fclose(json) != 0;
+  std::free(set);
+
+  std::fprintf(stderr, "sibdump: %lu %s read, %lu records written, %lu bad lines\n", d.counts.blocks,
+               opt.sibs ? "SIBs" : "blocks", d.counts.records, d.counts.bad);
+  if (read_error) {
+    std::fprintf(stderr, "sibdump: error reading %s\n", input_name);
+    return 2;
+  }
+  if (write_error) {
+    std::fprintf(stderr, "sibdump: error writing the JSON output\n");
+    return 2;
+  }
+  return d.counts.bad != 0 ? 1 : 0;
+}

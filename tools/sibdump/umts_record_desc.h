@@ -1,0 +1,89 @@
+/*
+ * Run-time descriptions of the flat records of umts_sib_set, and their JSON.
+ *
+ * Every flat record is written once, as the field list <record>_FIELDS(F) of its header
+ * (see umts_sib_record_macros.h). The descriptions here are expanded from those same lists
+ * (umts_record_desc_define.h), so a field added to a header appears in the JSON of sibdump
+ * without any change in this tool.
+ *
+ * JSON form of a record described by umts_record_desc:
+ *   - a record is an object of its fields in declaration order;
+ *   - SCALAR is a number, BOOL true/false, BYTES a string of two lower-case hex digits per
+ *     octet, RECORD an object;
+ *   - ARRAY is a list of its first `count` entries (count read from the field named by the
+ *     array's aux, never more than the dimension);
+ *   - UNION is an object holding the one member whose cond equals the tag field named by
+ *     the union's aux, e.g. "u":{"gsm_MAP":{...}}; when no member has that tag the field is
+ *     left out;
+ *   - a field with cond >= 0 outside a union is written only when bit `cond` of the
+ *     record's presence_bitmask is set.
+ */
+#ifndef UMTS_RECORD_DESC_H
+#define UMTS_RECORD_DESC_H
+
+#include <stddef.h>
+#include <stdint.h>
+
+#include <string>
+
+#include "umts_sib_decoder.h"
+
+typedef enum umts_field_kind {
+  umts_field_scalar = 0,
+  umts_field_bool,
+  umts_field_record,
+  umts_field_union,
+  umts_field_array,
+  umts_field_bytes
+} umts_field_kind;
+
+typedef struct umts_record_desc umts_record_desc;
+
+typedef struct umts_field_desc {
+  const char* name;
+  umts_field_kind kind;
+  uint32_t offset;      /* in the enclosing record or union */
+  uint32_t size;        /* of the whole field, every entry of an array */
+  uint32_t align;       /* alignment of the field's type */
+  uint32_t elem_size;   /* of one entry; the field's size when it is not an array */
+  uint32_t dim;         /* entries of an ARRAY, octets of BYTES, 1 otherwise */
+  uint8_t elem_signed;  /* integer entries: 1 when the type is signed */
+  const umts_record_desc* elem_desc; /* RECORD, UNION, ARRAY of records; null for integers */
+  int32_t cond;         /* UMTS_ALWAYS, the presence bit, or in a union the member's tag */
+  const char* aux_name; /* ARRAY: the count field; UNION: the tag field; null otherwise */
+  int32_t aux_offset;   /* offset of that field in the enclosing record, -1 without one */
+  uint32_t aux_size;
+} umts_field_desc;
+
+struct umts_record_desc {
+  const char* name;
+  uint32_t size;
+  uint32_t align;
+  uint8_t is_union;
+  int32_t presence_offset; /* offset of presence_bitmask, -1 when the record has none */
+  uint32_t presence_size;
+  uint32_t field_count;
+  const umts_field_desc* fields;
+};
+
+/* const umts_record_desc* describe_<record>(void) for every record of UMTS_ALL_RECORDS. */
+#define UMTS_DESCRIBE_DECL(kind, name) const umts_record_desc* describe_##name(void);
+UMTS_ALL_RECORDS(UMTS_DESCRIBE_DECL)
+#undef UMTS_DESCRIBE_DECL
+
+/* Every description of UMTS_ALL_RECORDS, in that order; *count receives their number. */
+const umts_record_desc* const* umts_all_record_descs(size_t* count);
+
+/* Checks one description against the C layout: fields in declaration order, each at the
+   first offset its alignment allows after the one before (so nothing overlaps and nothing
+   is left out), the record's size the end of its last field rounded to its alignment (for
+   a union: every member at offset 0, size that of the largest member rounded); kinds and
+   entry sizes consistent; optional fields backed by a presence_bitmask placed first; count
+   and tag fields integers of the same record; union member tags distinct and not negative.
+   Returns the number of problems and writes them, one per line, to *report when not null. */
+size_t umts_record_desc_check(const umts_record_desc* desc, std::string* report);
+
+/* Appends the JSON object of the record at `record`. */
+void umts_json_append_record(std::string& out, const umts_record_desc* desc, const void* record);
+
+#endif /* UMTS_RECORD_DESC_H */

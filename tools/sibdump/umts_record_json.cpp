@@ -1,0 +1,257 @@
+/*
+ * JSON of a flat record from its description, and the layout check of the descriptions.
+ */
+#include <charconv>
+#include <cstring>
+
+#include "umts_record_desc.h"
+
+namespace {
+
+uint64_t load_unsigned(const uint8_t* p, uint32_t size) {
+  switch (size) {
+    case 1:
+      return *p;
+    case 2: {
+      uint16_t v;
+      std::memcpy(&v, p, 2);
+      return v;
+    }
+    case 4: {
+      uint32_t v;
+      std::memcpy(&v, p, 4);
+      return v;
+    }
+    case 8: {
+      uint64_t v;
+      std::memcpy(&v, p, 8);
+      return v;
+    }
+    default:
+      return 0;
+  }
+}
+
+int64_t load_signed(const uint8_t* p, uint32_t size) {
+  switch (size) {
+    case 1: {
+      int8_t v;
+      std::memcpy(&v, p, 1);
+      return v;
+    }
+    case 2: {
+      int16_t v;
+      std::memcpy(&v, p, 2);
+      return v;
+    }
+    case 4: {
+      int32_t v;
+      std::memcpy(&v, p, 4);
+      return v;
+    }
+    case 8: {
+      int64_t v;
+      std::memcpy(&v, p, 8);
+      return v;
+    }
+    default:
+      return 0;
+  }
+}
+
+void append_integer(std::string& out, const uint8_t* p, uint32_t size, bool is_signed) {
+  char text[24];
+  std::to_chars_result r = is_signed ? std::to_chars(text, text + sizeof text, load_signed(p, size))
+                                     : std::to_chars(text, text + sizeof text, load_unsigned(p, size));
+  out.append(text, static_cast<size_t>(r.ptr - text));
+}
+
+void append_name(std::string& out, const char* name) {
+  out += '"';
+  out += name;
+  out += "\":";
+}
+
+bool field_present(const umts_record_desc* desc, const uint8_t* record, int32_t cond) {
+  if (cond < 0) return true;
+  if (desc->presence_offset < 0 || static_cast<uint32_t>(cond) >= desc->presence_size * 8u) return false;
+  return ((load_unsigned(record + desc->presence_offset, desc->presence_size) >> cond) & 1u) != 0;
+}
+
+/* The member of a union whose tag is `tag`, or null. */
+const umts_field_desc* union_member(const umts_record_desc* desc, uint64_t tag) {
+  for (uint32_t i = 0; i < desc->field_count; i++) {
+    const umts_field_desc& m = desc->fields[i];
+    if (m.cond >= 0 && static_cast<uint64_t>(m.cond) == tag) return &m;
+  }
+  return nullptr;
+}
+
+void append_record(std::string& out, const umts_record_desc* desc, const uint8_t* record);
+
+/* The value of field `f` of the record or union at `base`. */
+void append_value(std::string& out, const umts_field_desc& f, const uint8_t* base) {
+  static const char kHex[] = "0123456789abcdef";
+  const uint8_t* p = base + f.offset;
+  switch (f.kind) {
+    case umts_field_scalar:
+      append_integer(out, p, f.elem_size, f.elem_signed != 0);
+      break;
+    case umts_field_bool:
+      out += *p != 0 ? "true" : "false";
+      break;
+    case umts_field_record:
+      append_record(out, f.elem_desc, p);
+      break;
+    case umts_field_union: {
+      const umts_field_desc* m = union_member(f.elem_desc, load_unsigned(base + f.aux_offset, f.aux_size));
+      out += '{';
+      if (m != nullptr) {
+        append_name(out, m->name);
+        append_value(out, *m, p);
+      }
+      out += '}';
+      break;
+    }
+    case umts_field_array: {
+      uint64_t count = load_unsigned(base + f.aux_offset, f.aux_size);
+      if (count > f.dim) count = f.dim;
+      out += '[';
+      for (uint64_t i = 0; i < count; i++) {
+        if (i != 0) out += ',';
+        const uint8_t* e = p + i * f.elem_size;
+        if (f.elem_desc != nullptr) append_record(out, f.elem_desc, e);
+        else append_integer(out, e, f.elem_size, f.elem_signed != 0);
+      }
+      out += ']';
+      break;
+    }
+    case umts_field_bytes:
+      out += '"';
+      for (uint32_t i = 0; i < f.dim; i++) {
+        out += kHex[p[i] >> 4];
+        out += kHex[p[i] & 0x0Fu];
+      }
+      out += '"';
+      break;
+  }
+}
+
+void append_record(std::string& out, const umts_record_desc* desc, const uint8_t* record) {
+  out += '{';
+  /* A union reached without its tag has no member to show. */
+  if (!desc->is_union) {
+    bool first = true;
+    for (uint32_t i = 0; i < desc->field_count; i++) {
+      const umts_field_desc& f = desc->fields[i];
+      if (!field_present(desc, record, f.cond)) continue;
+      if (f.kind == umts_field_union &&
+          union_member(f.elem_desc, load_unsigned(record + f.aux_offset, f.aux_size)) == nullptr)
+        continue;
+      if (!first) out += ',';
+      first = false;
+      append_name(out, f.name);
+      append_value(out, f, record);
+    }
+  }
+  out += '}';
+}
+
+void note(std::string* report, size_t& problems, const umts_record_desc* desc, const char* field,
+          const char* what) {
+  problems++;
+  if (report == nullptr) return;
+  *report += desc->name;
+  if (field != nullptr) {
+    *report += '.';
+    *report += field;
+  }
+  *report += ": ";
+  *report += what;
+  *report += '\n';
+}
+
+uint32_t round_up(uint32_t value, uint32_t align) { return align == 0 ? value : (value + align - 1) / align * align; }
+
+bool is_integer_size(uint32_t size) { return size == 1 || size == 2 || size == 4 || size == 8; }
+
+/* The field of `desc` at `offset` named `name`, which must be a scalar. */
+bool integer_field_at(const umts_record_desc* desc, const char* name, int32_t offset) {
+  for (uint32_t i = 0; i < desc->field_count; i++) {
+    const umts_field_desc& f = desc->fields[i];
+    if (std::strcmp(f.name, name) == 0)
+      return f.kind == umts_field_scalar && static_cast<int32_t>(f.offset) == offset;
+  }
+  return false;
+}
+
+}  // namespace
+
+void umts_json_append_record(std::string& out, const umts_record_desc* desc, const void* record) {
+  append_record(out, desc, static_cast<const uint8_t*>(record));
+}
+
+size_t umts_record_desc_check(const umts_record_desc* desc, std::string* report) {
+  size_t problems = 0;
+  if (desc->field_count == 0) note(report, problems, desc, nullptr, "no fields");
+
+  uint32_t end = 0;
+  uint32_t max_align = 1;
+  bool optional = false;
+  for (uint32_t i = 0; i < desc->field_count; i++) {
+    const umts_field_desc& f = desc->fields[i];
+    if (f.align > max_align) max_align = f.align;
+
+    if (desc->is_union) {
+      if (f.offset != 0) note(report, problems, desc, f.name, "union member not at offset 0");
+      if (f.offset + f.size > end) end = f.offset + f.size;
+      if (f.cond < 0) note(report, problems, desc, f.name, "union member without a tag");
+      for (uint32_t j = 0; j < i; j++)
+        if (desc->fields[j].cond == f.cond) note(report, problems, desc, f.name, "union member tag used twice");
+    } else {
+      if (f.offset != round_up(end, f.align))
+        note(report, problems, desc, f.name, "not at the offset that follows the field before it");
+      end = f.offset + f.size;
+      if (f.cond >= 0) {
+        optional = true;
+        if (desc->presence_offset < 0 || static_cast<uint32_t>(f.cond) >= desc->presence_size * 8u)
+          note(report, problems, desc, f.name, "presence bit outside presence_bitmask");
+      }
+    }
+
+    const uint32_t dim = (f.kind == umts_field_array || f.kind == umts_field_bytes) ? f.dim : 1u;
+    if (dim == 0 || f.size != f.elem_size * dim) note(report, problems, desc, f.name, "size is not entries times entry size");
+    switch (f.kind) {
+      case umts_field_scalar:
+        if (!is_integer_size(f.elem_size)) note(report, problems, desc, f.name, "integer of an odd size");
+        break;
+      case umts_field_bool:
+      case umts_field_bytes:
+        if (f.elem_size != 1) note(report, problems, desc, f.name, "entries are not single octets");
+        break;
+      case umts_field_record:
+        if (f.elem_desc == nullptr || f.elem_desc->is_union || f.elem_desc->size != f.elem_size)
+          note(report, problems, desc, f.name, "nested record without a matching description");
+        break;
+      case umts_field_union:
+        if (f.elem_desc == nullptr || !f.elem_desc->is_union || f.elem_desc->size != f.elem_size)
+          note(report, problems, desc, f.name, "union without a matching description");
+        break;
+      case umts_field_array:
+        if (f.elem_desc != nullptr ? (f.elem_desc->is_union || f.elem_desc->size != f.elem_size)
+                                   : !is_integer_size(f.elem_size))
+          note(report, problems, desc, f.name, "array entries are neither records nor integers");
+        break;
+    }
+    if ((f.kind == umts_field_array || f.kind == umts_field_union) &&
+        (f.aux_name == nullptr || !integer_field_at(desc, f.aux_name, f.aux_offset)))
+      note(report, problems, desc, f.name, "count or tag field is not an integer field of the same record");
+  }
+
+  if (desc->align != max_align) note(report, problems, desc, nullptr, "alignment differs from that of its fields");
+  if (desc->size != round_up(end, max_align))
+    note(report, problems, desc, nullptr, "size is not covered by the fields");
+  if (optional && desc->presence_offset != 0)
+    note(report, problems, desc, nullptr, "optional fields but presence_bitmask is not the first field");
+  return problems;
+}
