@@ -60,6 +60,9 @@
 #define UMTS_FRAME_LOCAL
 #endif
 
+/* The context message of every block but the MIB and SB1. */
+#define UMTS_FRAME_CONTEXT_FAILED_TEXT "ASN context initialisation failed "
+
 /* Where a frame message goes. */
 typedef enum umts_frame_channel {
   UMTS_FRAME_QUIET = 0,  /* nowhere */
