@@ -87,6 +87,220 @@ void convert_mib_v690_nce_v6b0_nce_v860_nce_nce(
         src,
     uint8_t* dst);
 
+/* ==== SB1 and SB2 ========================================================================= */
+
+/* The reference list of both blocks; a tag without a value is printed, not logged. */
+void convert_sib_reference_list(const SIB_ReferenceList* src, umts_sib_reference_list* dst);
+void fill_scheduling_info_sib(const SchedulingInformationSIB* src, umts_scheduling_info_sib* dst);
+void fill_sib_type(const SIB_TypeAndTag* src, umts_sib_type* dst);
+
+/* SB1's non-critical extensions. */
+void convert_sysinfotypesb1_v6b0_nc_extensions(const SysInfoTypeSB1_v6b0NonCriticalExtensions* src,
+                                               umts_sb_v6b0_nc_extensions* dst);
+void convert_sysinfotypesb1_v6b0_ext(const SysInfoTypeSB1_v6b0ext* src, umts_sb_v6b0_ext* dst);
+void convert_sysinfotypesb1_v6b0_nc_extensions_v860_nc_extensions(
+    const SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions* src, umts_sb_v860_nc_extensions* dst);
+void convert_sysinfotypesb1_v860_ext(const SysInfoTypeSB1_v860ext* src, umts_sb_v860_ext* dst);
+void convert_sysinfotypesb1_v6b0_nc_extensions_v860_nc_extensions_nc_extensions(
+    const SysInfoTypeSB1_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* src,
+    uint8_t* dst);
+
+/* SB2's non-critical extensions. */
+void convert_sysinfotypesb2_v6b0_nc_extensions(const SysInfoTypeSB2_v6b0NonCriticalExtensions* src,
+                                               umts_sb_v6b0_nc_extensions* dst);
+void convert_sysinfotypesb2_v6b0_ext(const SysInfoTypeSB2_v6b0ext* src, umts_sb_v6b0_ext* dst);
+void convert_sysinfotypesb2_v6b0_nc_extensions_v860_nc_extensions(
+    const SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions* src, umts_sb_v860_nc_extensions* dst);
+void convert_sysinfotypesb2_v860_ext(const SysInfoTypeSB2_v860ext* src, umts_sb_v860_ext* dst);
+void convert_sysinfotypesb2_v6b0_nc_extensions_v860_nc_extensions_nc_extensions(
+    const SysInfoTypeSB2_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* src,
+    uint8_t* dst);
+
+/* ==== SIB1 ================================================================================ */
+
+/* NAS system information. The ANSI-41 parameter's count is its number of bits; that many of
+   its octets are kept, at most the 256 of the record. */
+void convert_nas_system_gsm_map_info(const NAS_SystemInformationGSM_MAP* src, umts_nas_system_gsm_map_info* dst);
+void convert_nas_system_ansi_41_info(const NAS_SystemInformationANSI_41* src, umts_nas_system_ansi_41_info* dst);
+void convert_cn_domainsysinfo_cn_type(const CN_DomainSysInfo_cn_Type* src, umts_cn_domain_sysinfo_cn_type* dst);
+void convert_cn_domain_sysinfo_list(const CN_DomainSysInfoList* src, umts_cn_domain_sysinfo_list* dst);
+
+/* SIB1's non-critical extensions; the record is zeroed first. */
+void fill_sysinfotype1_v3a0_nce(const SysInfoType1_v3a0NonCriticalExtensions* src, umts_sysinfotype1_v3a0_nce* dst);
+
+/* ==== SIB2 and SIB7 ======================================================================= */
+
+/* The empty nonCriticalExtensions of SIB2: its one byte, 0. */
+void convert_sysinfotype2_non_critical_extensions(const SysInfoType2_nonCriticalExtensions* src, uint8_t* dst);
+void convert_sysinfotype7_modespecificinfo(const SysInfoType7_modeSpecificInfo* src,
+                                           umts_sysinfotype7_modespecificinfo* dst);
+void convert_sysinfotype7_modespecificinfo_fdd(const SysInfoType7_modeSpecificInfo_fdd* src, int8_t* ul_Interference);
+void convert_dynamic_persistencelevel_list(const DynamicPersistenceLevelList* src,
+                                           umts_dynamic_persistence_level_list* dst);
+
+/* ==== SIB3 ================================================================================ */
+
+/* Cell selection and reselection. */
+void convert_cell_select_reselect_infoSIB_3_4(const CellSelectReselectInfoSIB_3_4* src,
+                                              umts_cell_select_reselect_info_sib_3_4* dst);
+void convert_mapping_info(const MappingInfo* src, umts_mapping_info* dst);
+void convert_mapping_function_parameter_list(const MappingFunctionParameterList* src,
+                                             umts_mapping_function_parameter_list* dst);
+void convert_mapping_lcr_r4(const Mapping_LCR_r4* src, umts_mapping_function_parameter_list* dst);
+void convert_call_select_reselect_infoSIB3_4_cell_select_quality_measure(
+    const CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure* src, umts_cell_select_quality_measure* dst);
+void convert_call_select_reselect_infoSIB3_4_cell_select_quality_measure_cpich_Ec_N0(
+    const CellSelectReselectInfoSIB_3_4_cellSelectQualityMeasure_cpich_Ec_N0* src,
+    umts_cell_select_quality_measure_cpich_ec_n0* dst);
+void convert_call_select_reselect_infoSIB3_4_mode_specific_info(const CellSelectReselectInfoSIB_3_4_modeSpecificInfo* src,
+                                                                umts_sib3_mode_specific_info* dst);
+void convert_call_select_reselect_infoSIB3_4_mode_specific_info_fdd(
+    const CellSelectReselectInfoSIB_3_4_modeSpecificInfo_fdd* src, umts_sib3_fdd_info* dst);
+void convert_call_select_reselect_infoSIB3_4_mode_specific_info_tdd(
+    const CellSelectReselectInfoSIB_3_4_modeSpecificInfo_tdd* src, umts_sib3_tdd_info* dst);
+void convert_rat_fdd_info_list(const RAT_FDD_InfoList* src, umts_rat_info_list* dst);
+void convert_rat_tdd_info_list(const RAT_TDD_InfoList* src, umts_rat_info_list* dst);
+void convert_hsc_serving_cell_information(const HCS_ServingCellInformation* src, umts_hcs_serving_cell_information* dst);
+void convert_T_cr_max(const T_CRMax* src, umts_t_cr_max* dst);
+
+/* Access restriction. */
+void convert_cell_access_restriction(const CellAccessRestriction* src, umts_cell_access_restriction* dst);
+void convert_call_barred(const CellBarred* src, umts_cell_barred* dst);
+void convert_callBarred_barred(const CellBarred_barred* src, umts_cell_barred_barred* dst);
+void convert_access_class_barred_list(const AccessClassBarredList* src, umts_access_class_barred_list* dst);
+
+/* The levels of the extension chain: each converts its own extension, then the next level
+   when that is present. */
+void convert_sysinfotype3_v4b0_nc_extensions(const SysInfoType3_v4b0NonCriticalExtensions* src, umts_sib3_v4b0_nce* dst);
+void convert_sysinfotype3_v4b0nces_v590nce(const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension* src,
+                                           umts_sib3_v590_nce* dst);
+void convert_sysinfotype3_v4b0nces_v590nce_v5c0nce(
+    const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension* src,
+    umts_sib3_v5c0_nce* dst);
+void convert_sysinfotype3_v4b0nces_v590nce_v5c0nce_v670nce(
+    const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension*
+        src,
+    umts_sib3_v670_nce* dst);
+void convert_sysinfotype3_v4b0nces_v590nce_v5c0nce_v670nce_v770nce(
+    const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension*
+        src,
+    umts_sib3_v770_nce* dst);
+void convert_sysinfotype3_v4b0nces_v590nce_v5c0nce_v670nce_v770nce_v830nce(
+    const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension*
+        src,
+    umts_sib3_v830_nce* dst);
+void convert_sysinfotype3_v4b0nces_v590nce_v5c0nce_v670nce_v770nce_v830nce_v860nce(
+    const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension*
+        src,
+    umts_sib3_v860_nce* dst);
+void convert_sysinfotype3_v4b0nces_v590nce_v5c0nce_v670nce_v770nce_v830nce_v860nce_v870nce(
+    const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension*
+        src,
+    umts_sib3_v870_nce* dst);
+void convert_sysinfotype3_v4b0nces_v590nce_v5c0nce_v670nce_v770nce_v830nce_v860nce_v870nce_v900nce(
+    const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension*
+        src,
+    umts_sib3_v900_nce* dst);
+void convert_sysinfotype3_v4b0nces_v590nce_v5c0nce_v670nce_v770nce_v830nce_v860nce_v870nce_v900nce_nce(
+    const SysInfoType3_v4b0NonCriticalExtensions_v590NonCriticalExtension_v5c0NoncriticalExtension_v670NonCriticalExtension_v770NonCriticalExtension_v830NonCriticalExtension_v860NonCriticalExtension_v870NonCriticalExtension_v900NonCriticalExtension_nonCriticalExtensions*
+        src,
+    uint8_t* dst);
+
+/* The extensions of the levels. */
+void convert_sysinfotype3_v4b0ext_ies_t(const SysInfoType3_v4b0ext_IEs* src, umts_sib3_v4b0ext* dst);
+void convert_sysinfotype3_v590ext(const SysInfoType3_v590ext* src, umts_sib3_v590ext* dst);
+void convert_sysinfotype3_v5c0ext_ies(const SysInfoType3_v5c0ext_IEs* src, umts_sib3_v5c0ext* dst);
+void convert_sysinfotype3_v670ext(const SysInfoType3_v670ext* src, umts_sib3_v670ext* dst);
+void convert_sysinfotype3_v770ext_ies(const SysInfoType3_v770ext_IEs* src, umts_sib3_v770ext* dst);
+void convert_sysinfotype3_v830ext_ies(const SysInfoType3_v830ext_IEs* src, umts_sib3_v830ext* dst);
+void convert_sysinfotype3_v860ext_ies(const SysInfoType3_v860ext_IEs* src, umts_sib3_v860ext* dst);
+void convert_sysinfotype3_v870ext_ies(const SysInfoType3_v870ext_IEs* src, umts_sib3_v870ext* dst);
+void convert_sysinfotype3_v920ext_ies(const SysInfoType3_v920ext_IEs* src, umts_sib3_v920ext* dst);
+
+/* Cell records of v590 and v5c0; the v590 one serves SIB11bis too. */
+void convert_cell_select_reselect_info_v590_ext(const CellSelectReselectInfo_v590ext* src,
+                                                umts_cell_select_reselect_info_v590ext* dst);
+void convert_cell_select_reselect_info_t_reselection_scaling_v5c0ext(
+    const CellSelectReselectInfoTreselectionScaling_v5c0ext* src,
+    umts_cell_select_reselect_info_treselection_scaling_v5c0ext* dst);
+
+/* v670: domain specific access restriction. */
+void convert_domain_specific_access_restriction_param_v670ext(const DomainSpecificAccessRestrictionParam_v670ext* src,
+                                                              umts_domain_specific_access_restriction_param_v670ext* dst);
+void convert_domain_specific_access_restriction_v670ext(const DomainSpecificAccessRestriction_v670ext* src,
+                                                        umts_domain_specific_access_restriction_v670ext* dst);
+void convert_domain_specific_access_restriction_v670ext_restriction(
+    const DomainSpecificAccessRestriction_v670ext_restriction* src,
+    umts_domain_specific_access_restriction_v670ext_restriction* dst);
+void convert_domain_specific_access_restriction_list_v670ext(const DomainSpecificAccessRestrictionList_v670ext* src,
+                                                             umts_domain_specific_access_restriction_list_v670ext* dst);
+void convert_domain_specific_access_restriction_for_shared_network_v670ext(
+    const DomainSpecificAccessRestrictionForSharedNetwork_v670ext* src,
+    umts_domain_specific_access_restriction_for_shared_network_v670ext* dst);
+
+/* v770: deferred measurement control reading. */
+void convert_deferred_measurement_control_reading_support(const DeferredMeasurementControlReadingSupport* src,
+                                                          umts_deferred_measurement_control_reading_support* dst);
+void convert_deferred_measurement_control_reading_support_mode_specific_info(
+    const DeferredMeasurementControlReadingSupport_modeSpecificInfo* src,
+    umts_deferred_measurement_control_reading_support_mode_specific_info* dst);
+void convert_deferred_measurement_control_reading_support_mode_specific_info_fdd(
+    const DeferredMeasurementControlReadingSupport_modeSpecificInfo_fdd* src,
+    umts_deferred_measurement_control_reading_support_fdd* dst);
+void convert_deferred_measurement_control_reading_support_mode_specific_info_tdd(
+    const DeferredMeasurementControlReadingSupport_modeSpecificInfo_tdd* src,
+    umts_intra_freq_meas_quantity_tdd_sib3_list* dst);
+void convert_intra_freq_meas_quantity_tdd_sib3_list(const IntraFreqMeasQuantity_TDD_sib3List* src,
+                                                    umts_intra_freq_meas_quantity_tdd_sib3_list* dst);
+
+/* v830: paging permission with access control. */
+void convert_paging_permission_with_access_control_parameters(const PagingPermissionWithAccessControlParameters* src,
+                                                              umts_paging_permission_with_access_control_parameters* dst);
+void convert_location_registration_parameters(const LocationRegistrationParameters* src,
+                                              umts_location_registration_parameters* dst);
+void convert_location_registration_access_class_barred_list(const LocationRegistrationAccessClassBarredList* src,
+                                                            umts_location_registration_access_class_barred_list* dst);
+void convert_paging_permission_with_access_control_list(const PagingPermissionWithAccessControlList* src,
+                                                        umts_paging_permission_with_access_control_list* dst);
+void convert_paging_permission_with_access_control_for_shared_network(
+    const PagingPermissionWithAccessControlForSharedNetwork* src,
+    umts_paging_permission_with_access_control_for_shared_network* dst);
+
+/* v860 (the split info serves SIB11bis too) and v870. */
+void convert_csg_identity(const CSG_Identity* src, umts_csg_identity* dst);
+void convert_csg_psc_split_info(const CSG_PSCSplitInfo* src, umts_csg_psc_split_info* dst);
+void convert_cell_access_restriction_v870ext(const CellAccessRestriction_v870ext* src,
+                                             umts_cell_access_restriction_v870ext* dst);
+
+/* ==== SIB18 =============================================================================== */
+
+/* PLMN identities of the neighbour cells; the three list copies are one loop. */
+void convert_plmn_identities_of_neighbour_cells(const PLMNIdentitiesOfNeighbourCells* src,
+                                                umts_plmn_identities_of_neighbour_cells* dst);
+void convert_plmn_intra_freq_list(const PLMNsOfIntraFreqCellsList* src, umts_plmns_of_cells_list* dst);
+void convert_plmn_inter_freq_list(const PLMNsOfInterFreqCellsList* src, umts_plmns_of_cells_list* dst);
+void convert_plmn_inter_rat_list(const PLMNsOfInterRATCellsList* src, umts_plmns_of_cells_list* dst);
+
+/* The v6b0 level (the name says v3a0): 1, or 0 with nothing done when `value` is null. */
+uint8_t fill_sysinfotype18_v3a0_nce(const SysInfoType18_v6b0NonCriticalExtensions* value,
+                                    umts_sysinfotype18_v6b0_nce* record);
+void convert_sysinfotype18_v6b0ext(const SysInfoType18_v6b0ext* src, umts_sysinfotype18_v6b0ext* dst);
+void convert_sysinfotype18_v6b0_nce_v860_nce(const SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions* src,
+                                             umts_sysinfotype18_v860_nce* dst);
+void convert_sysinfotype18_v6b0_nce_v860_nce_nce(
+    const SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* src, uint8_t* dst);
+void convert_sysinfotype18_v860ext(const SysInfoType18_v860ext* src, umts_sysinfotype18_v860ext* dst);
+void convert_plmn_identities_of_neighbour_cells_v860ext(const PLMNIdentitiesOfNeighbourCells_v860ext* src,
+                                                        umts_plmn_identities_of_neighbour_cells_v860ext* dst);
+void convert_multiple_plmns_of_intra_freq_cells_list(const MultiplePLMNsOfIntraFreqCellsList* src,
+                                                     umts_multiple_plmns_of_cells_list* dst);
+void convert_multiple_plmns_of_inter_freq_cells_list(const MultiplePLMNsOfInterFreqCellsList* src,
+                                                     umts_multiple_plmns_of_cells_list* dst);
+void convert_multiple_plmns_of_intra_freq_cells_list_element_multiple_plmn_list(
+    const MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list* src, umts_multiple_plmn_list* dst);
+void convert_multiple_plmns_of_inter_freq_cells_list_element_multiple_plmn_list(
+    const MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list* src, umts_multiple_plmn_list* dst);
+
 #ifdef __cplusplus
 }
 #endif

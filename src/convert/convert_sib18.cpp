@@ -1,10 +1,15 @@
 /*
- * SIB18: PLMN identities of the neighbouring cells.
+ * SIB18 (slot 9) into umts_sib18_info: the PLMN identities of the neighbouring cells for
+ * idle and connected mode, those for SIB11bis (v6b0) and the multiple PLMNs per cell (v860).
  *
- * The frame runs (decoder, print, messages); the record is left zeroed after a successful
- * decoding until its copy is written here.
+ * Messages print with puts; nothing below the frame reports anything. Lists are walked while
+ * the index is below their 8-bit count, and never past their node chain or the flat array.
  */
+#include <cstdio>
+#include <cstring>
+
 #include "convert_frame.h"
+#include "umts_sib_convert.h"
 
 namespace {
 
@@ -18,12 +23,197 @@ const umts_frame_desc kSib18Frame = {
     {UMTS_FRAME_QUIET, nullptr},
 };
 
+template <typename T, size_t N>
+constexpr uint32_t bound_of(const T (&)[N]) {
+  return static_cast<uint32_t>(N);
+}
+
+/* The intra-frequency, inter-frequency and inter-RAT lists: entries of an optional
+   PLMN-Identity, each element type of the same shape. */
+template <typename Element>
+void copy_plmns_of_cells(const rtxDList* src, umts_plmns_of_cells_list* dst) {
+  dst->count = static_cast<uint8_t>(src->count);
+  const rtxDListNode* node = src->head;
+  for (uint32_t i = 0; i < dst->count && i < bound_of(dst->entries) && node != nullptr; i++, node = node->next) {
+    const Element* element = static_cast<const Element*>(node->data);
+    if (element->m & 1u) {
+      dst->entries[i].presence_bitmask |= 1u;
+      fill_plmn_identity(&element->plmn_Identity, &dst->entries[i].plmn_Identity);
+    }
+  }
+}
+
+/* The PLMNs of one neighbour cell. */
+void copy_multiple_plmn_list(const rtxDList* src, umts_multiple_plmn_list* dst) {
+  dst->count = static_cast<uint8_t>(src->count);
+  if (dst->count == 0) return;
+  const rtxDListNode* node = src->head;
+  for (uint32_t i = 0; i < dst->count && i < bound_of(dst->entries) && node != nullptr; i++, node = node->next) {
+    convert_plmn_identity_with_optional_mcc_r6(static_cast<const PLMN_IdentityWithOptionalMCC_r6*>(node->data),
+                                               &dst->entries[i]);
+  }
+}
+
+/* The intra- and inter-frequency lists of multiple PLMNs, each element with its own copy of
+   the PLMN list. */
+template <typename Element, void (*CopyPlmns)(const decltype(Element::multiplePLMN_list)*, umts_multiple_plmn_list*)>
+void copy_multiple_plmns_of_cells(const rtxDList* src, umts_multiple_plmns_of_cells_list* dst) {
+  dst->count = static_cast<uint8_t>(src->count);
+  const rtxDListNode* node = src->head;
+  for (uint32_t i = 0; i < dst->count && i < bound_of(dst->entries) && node != nullptr; i++, node = node->next) {
+    const Element* element = static_cast<const Element*>(node->data);
+    if (element->m & 1u) {
+      dst->entries[i].presence_bitmask |= 1u;
+      CopyPlmns(&element->multiplePLMN_list, &dst->entries[i].multiplePLMN_list);
+    }
+  }
+}
+
 }  // namespace
+
+/* ---- The neighbour cell lists ---------------------------------------------------------- */
+
+void convert_plmn_intra_freq_list(const PLMNsOfIntraFreqCellsList* src, umts_plmns_of_cells_list* dst) {
+  copy_plmns_of_cells<PLMNsOfIntraFreqCellsList_element>(src, dst);
+}
+
+void convert_plmn_inter_freq_list(const PLMNsOfInterFreqCellsList* src, umts_plmns_of_cells_list* dst) {
+  copy_plmns_of_cells<PLMNsOfInterFreqCellsList_element>(src, dst);
+}
+
+void convert_plmn_inter_rat_list(const PLMNsOfInterRATCellsList* src, umts_plmns_of_cells_list* dst) {
+  copy_plmns_of_cells<PLMNsOfInterRATCellsList_element>(src, dst);
+}
+
+void convert_plmn_identities_of_neighbour_cells(const PLMNIdentitiesOfNeighbourCells* src,
+                                                umts_plmn_identities_of_neighbour_cells* dst) {
+  if (src->m & 1u) {
+    dst->presence_bitmask |= 1u;
+    convert_plmn_intra_freq_list(&src->plmnsOfIntraFreqCellsList, &dst->plmnsOfIntraFreqCellsList);
+  }
+  if (src->m & 2u) {
+    dst->presence_bitmask |= 2u;
+    convert_plmn_inter_freq_list(&src->plmnsOfInterFreqCellsList, &dst->plmnsOfInterFreqCellsList);
+  }
+  if (src->m & 4u) {
+    dst->presence_bitmask |= 4u;
+    convert_plmn_inter_rat_list(&src->plmnsOfInterRATCellsList, &dst->plmnsOfInterRATCellsList);
+  }
+}
+
+/* ---- Multiple PLMNs of the neighbour cells --------------------------------------------- */
+
+void convert_multiple_plmns_of_intra_freq_cells_list_element_multiple_plmn_list(
+    const MultiplePLMNsOfIntraFreqCellsList_element_multiplePLMN_list* src, umts_multiple_plmn_list* dst) {
+  copy_multiple_plmn_list(src, dst);
+}
+
+void convert_multiple_plmns_of_inter_freq_cells_list_element_multiple_plmn_list(
+    const MultiplePLMNsOfInterFreqCellsList_element_multiplePLMN_list* src, umts_multiple_plmn_list* dst) {
+  copy_multiple_plmn_list(src, dst);
+}
+
+void convert_multiple_plmns_of_intra_freq_cells_list(const MultiplePLMNsOfIntraFreqCellsList* src,
+                                                     umts_multiple_plmns_of_cells_list* dst) {
+  copy_multiple_plmns_of_cells<MultiplePLMNsOfIntraFreqCellsList_element,
+                               convert_multiple_plmns_of_intra_freq_cells_list_element_multiple_plmn_list>(src, dst);
+}
+
+void convert_multiple_plmns_of_inter_freq_cells_list(const MultiplePLMNsOfInterFreqCellsList* src,
+                                                     umts_multiple_plmns_of_cells_list* dst) {
+  copy_multiple_plmns_of_cells<MultiplePLMNsOfInterFreqCellsList_element,
+                               convert_multiple_plmns_of_inter_freq_cells_list_element_multiple_plmn_list>(src, dst);
+}
+
+void convert_plmn_identities_of_neighbour_cells_v860ext(const PLMNIdentitiesOfNeighbourCells_v860ext* src,
+                                                        umts_plmn_identities_of_neighbour_cells_v860ext* dst) {
+  if (src->m & 1u) {
+    dst->presence_bitmask |= 1u;
+    convert_multiple_plmns_of_intra_freq_cells_list(&src->multipleplmnsOfIntraFreqCellsList,
+                                                    &dst->multipleplmnsOfIntraFreqCellsList);
+  }
+  if (src->m & 2u) {
+    dst->presence_bitmask |= 2u;
+    convert_multiple_plmns_of_inter_freq_cells_list(&src->multipleplmnsOfInterFreqCellsList,
+                                                    &dst->multipleplmnsOfInterFreqCellsList);
+  }
+}
+
+/* ---- Non-critical extensions ----------------------------------------------------------- */
+
+void convert_sysinfotype18_v860ext(const SysInfoType18_v860ext* src, umts_sysinfotype18_v860ext* dst) {
+  if (src->m & 1u) {
+    dst->presence_bitmask |= 1u;
+    convert_plmn_identities_of_neighbour_cells_v860ext(&src->idleModePLMNIdentities, &dst->idleModePLMNIdentities);
+  }
+  if (src->m & 2u) {
+    dst->presence_bitmask |= 2u;
+    convert_plmn_identities_of_neighbour_cells_v860ext(&src->connectedModePLMNIdentities,
+                                                       &dst->connectedModePLMNIdentities);
+  }
+}
+
+void convert_sysinfotype18_v6b0_nce_v860_nce_nce(
+    const SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions_nonCriticalExtensions* src, uint8_t* dst) {
+  /* The decoded sequence is empty: its one byte is the zero of the cleared value. */
+  std::memcpy(dst, src, 1);
+}
+
+void convert_sysinfotype18_v6b0_nce_v860_nce(const SysInfoType18_v6b0NonCriticalExtensions_v860NonCriticalExtensions* src,
+                                             umts_sysinfotype18_v860_nce* dst) {
+  convert_sysinfotype18_v860ext(&src->sysInfoType18_v860ext, &dst->sysInfoType18_v860ext);
+  if (src->m & 1u) {
+    dst->presence_bitmask |= 1u;
+    convert_sysinfotype18_v6b0_nce_v860_nce_nce(&src->nonCriticalExtensions, &dst->nonCriticalExtensions);
+  }
+}
+
+void convert_sysinfotype18_v6b0ext(const SysInfoType18_v6b0ext* src, umts_sysinfotype18_v6b0ext* dst) {
+  if (src->m & 1u) {
+    dst->presence_bitmask |= 1u;
+    convert_plmn_identities_of_neighbour_cells(&src->idleModePLMNIdentitiesSIB11bis, &dst->idleModePLMNIdentitiesSIB11bis);
+  }
+  if (src->m & 2u) {
+    dst->presence_bitmask |= 2u;
+    convert_plmn_identities_of_neighbour_cells(&src->connectedModePLMNIdentitiesSIB11bis,
+                                               &dst->connectedModePLMNIdentitiesSIB11bis);
+  }
+}
+
+uint8_t fill_sysinfotype18_v3a0_nce(const SysInfoType18_v6b0NonCriticalExtensions* value,
+                                    umts_sysinfotype18_v6b0_nce* record) {
+  if (value == nullptr) {
+    puts("fill_sysinfotype18_v3a0_nce: null value received for p_v6b0NonCriticalExtensions");
+    return 0;
+  }
+  std::memset(record, 0, sizeof *record);
+  convert_sysinfotype18_v6b0ext(&value->sysInfoType18_v6b0ext, &record->sysInfoType18_v6b0ext);
+  if (value->m & 1u) {
+    record->presence_bitmask |= 1u;
+    convert_sysinfotype18_v6b0_nce_v860_nce(&value->v860NonCriticalExtensions, &record->v860NonCriticalExtensions);
+  }
+  return 1;
+}
+
+/* ---- The block ------------------------------------------------------------------------- */
 
 uint8_t umts_convert_sib18(umts_sib18_info* sib18) {
   rtxContext ctx;
   SysInfoType18 decoded;
   if (!umts_frame_open(&ctx, &kSib18Frame)) return 0;
   if (!UMTS_FRAME_DECODE(ctx, SysInfoType18, decoded, kSib18Frame, sib18)) return 0;
+
+  if (decoded.m & 1u) {
+    sib18->presence_bitmask |= 1u;
+    convert_plmn_identities_of_neighbour_cells(&decoded.idleModePLMNIdentities, &sib18->idleModePLMNIdentities);
+  }
+  if (decoded.m & 2u) {
+    sib18->presence_bitmask |= 2u;
+    convert_plmn_identities_of_neighbour_cells(&decoded.connectedModePLMNIdentities, &sib18->connectedModePLMNIdentities);
+  }
+  if (decoded.m & 4u) {
+    sib18->presence_bitmask |= 4u;
+    (void)fill_sysinfotype18_v3a0_nce(&decoded.v6b0NonCriticalExtensions, &sib18->v6b0NonCriticalExtensions);
+  }
   return umts_frame_close(&ctx, &kSib18Frame);
 }

@@ -1,0 +1,246 @@
+// SIB18: built in code, encoded by the codec, sent whole and over the BCH, and the record
+// compared with the values it was built from at every level of its extensions.
+#include <array>
+#include <deque>
+
+#include "bch_segmenter.h"
+#include "frame_test_util.h"
+
+using namespace frametest;
+
+namespace {
+
+template <typename T>
+bool allZero(const T& value) {
+  static const T zero = {};
+  return std::memcmp(&value, &zero, sizeof value) == 0;
+}
+
+// A SysInfoType18 built in code, with the storage of its list elements. List sizes are given
+// as {intra, inter, inter-RAT} (or {intra, inter} for multiple PLMNs); 0 leaves a list out.
+struct Sib18 {
+  SysInfoType18 s;
+  std::deque<PLMNsOfIntraFreqCellsList_element> cells;  // the three element types share one shape
+  std::deque<MultiplePLMNsOfIntraFreqCellsList_element> multiple;  // so do these two
+  std::deque<PLMN_IdentityWithOptionalMCC_r6> plmns;
+  std::deque<rtxDListNode> nodes;
+  uint32_t seed = 0;
+
+  Sib18() { std::memset(&s, 0, sizeof s); }
+  template <typename T>
+  T& add(rtxDList& list, std::deque<T>& store) {
+    store.emplace_back();
+    std::memset(&store.back(), 0, sizeof(T));
+    nodes.emplace_back();
+    append(list, nodes.back(), store.back());
+    return store.back();
+  }
+  PLMN_Identity next() {
+    seed++;
+    return plmnIdentity(std::to_string(200 + seed).c_str(), std::to_string(seed % 2 ? 10 + seed : 100 + seed).c_str());
+  }
+  // Every third cell, from the second on, without its identity.
+  void neighbours(PLMNIdentitiesOfNeighbourCells& n, std::array<uint32_t, 3> sizes) {
+    rtxDList* lists[] = {&n.plmnsOfIntraFreqCellsList, &n.plmnsOfInterFreqCellsList, &n.plmnsOfInterRATCellsList};
+    for (uint32_t l = 0; l < 3; l++) {
+      n.m |= sizes[l] ? 1u << l : 0;
+      for (uint32_t i = 0; i < sizes[l]; i++) {
+        auto& e = add(*lists[l], cells);
+        if (i % 3 != 1) e = {1, next()};
+      }
+    }
+  }
+  // Cell i holds 6 - i % 6 PLMNs, every other one with its MCC; every fourth cell, from the
+  // third on, holds no list.
+  void multipleNeighbours(PLMNIdentitiesOfNeighbourCells_v860ext& n, std::array<uint32_t, 2> sizes) {
+    rtxDList* lists[] = {&n.multipleplmnsOfIntraFreqCellsList, &n.multipleplmnsOfInterFreqCellsList};
+    for (uint32_t l = 0; l < 2; l++) {
+      n.m |= sizes[l] ? 1u << l : 0;
+      for (uint32_t i = 0; i < sizes[l]; i++) {
+        auto& e = add(*lists[l], multiple);
+        e.m = i % 4 != 2;
+        for (uint32_t j = 0; e.m && j < 6 - i % 6; j++) {
+          const PLMN_Identity id = next();
+          add(e.multiplePLMN_list, plmns) = {j % 2 == 0, j % 2 == 0 ? id.mcc : MCC{}, id.mnc};
+        }
+      }
+    }
+  }
+  SysInfoType18_v6b0ext& v6b0() {
+    s.m |= 4;
+    return s.v6b0NonCriticalExtensions.sysInfoType18_v6b0ext;
+  }
+  SysInfoType18_v860ext& v860(bool extensions) {
+    s.m |= 4;
+    s.v6b0NonCriticalExtensions.m = 1;
+    s.v6b0NonCriticalExtensions.v860NonCriticalExtensions.m = extensions;
+    return s.v6b0NonCriticalExtensions.v860NonCriticalExtensions.sysInfoType18_v860ext;
+  }
+};
+
+// ---- Field by field against the value built; an absent element is zero on both sides -----
+
+void expectPlmn(const MCC& mcc, const MNC& mnc, const umts_mcc& out_mcc, const umts_mnc& out_mnc) {
+  EXPECT_EQ(out_mcc.count, mcc.n);
+  EXPECT_EQ(out_mnc.count, mnc.n);
+  EXPECT_EQ(std::memcmp(out_mcc.digits, mcc.elem, 3) | std::memcmp(out_mnc.digits, mnc.elem, 3), 0);
+}
+
+void expectCells(const rtxDList& in, const umts_plmns_of_cells_list& out) {
+  ASSERT_EQ(out.count, in.count);
+  const rtxDListNode* node = in.head;
+  for (uint32_t i = 0; i < 32; i++, node = node ? node->next : nullptr) {
+    if (node == nullptr) {
+      EXPECT_TRUE(allZero(out.entries[i])) << i;
+      continue;
+    }
+    const auto& e = *static_cast<const PLMNsOfIntraFreqCellsList_element*>(node->data);
+    EXPECT_EQ(out.entries[i].presence_bitmask, e.m) << i;
+    expectPlmn(e.plmn_Identity.mcc, e.plmn_Identity.mnc, out.entries[i].plmn_Identity.mcc, out.entries[i].plmn_Identity.mnc);
+  }
+}
+
+void expectNeighbours(const PLMNIdentitiesOfNeighbourCells& in, const umts_plmn_identities_of_neighbour_cells& out) {
+  EXPECT_EQ(out.presence_bitmask, in.m);
+  expectCells(in.plmnsOfIntraFreqCellsList, out.plmnsOfIntraFreqCellsList);
+  expectCells(in.plmnsOfInterFreqCellsList, out.plmnsOfInterFreqCellsList);
+  expectCells(in.plmnsOfInterRATCellsList, out.plmnsOfInterRATCellsList);
+}
+
+void expectMultipleCells(const rtxDList& in, const umts_multiple_plmns_of_cells_list& out) {
+  ASSERT_EQ(out.count, in.count);
+  const rtxDListNode* node = in.head;
+  for (uint32_t i = 0; i < 32; i++, node = node ? node->next : nullptr) {
+    if (node == nullptr) {
+      EXPECT_TRUE(allZero(out.entries[i])) << i;
+      continue;
+    }
+    const auto& e = *static_cast<const MultiplePLMNsOfIntraFreqCellsList_element*>(node->data);
+    const umts_multiple_plmn_list& list = out.entries[i].multiplePLMN_list;
+    EXPECT_EQ(out.entries[i].presence_bitmask, e.m) << i;
+    ASSERT_EQ(list.count, e.multiplePLMN_list.count) << i;
+    const rtxDListNode* p = e.multiplePLMN_list.head;
+    for (uint32_t j = 0; j < 6; j++, p = p ? p->next : nullptr) {
+      if (p == nullptr) {
+        EXPECT_TRUE(allZero(list.entries[j])) << i << "/" << j;
+        continue;
+      }
+      const auto& id = *static_cast<const PLMN_IdentityWithOptionalMCC_r6*>(p->data);
+      EXPECT_EQ(list.entries[j].presence_bitmask, id.m) << i << "/" << j;
+      expectPlmn(id.mcc, id.mnc, list.entries[j].mcc, list.entries[j].mnc);
+    }
+  }
+}
+
+void expectSib18(const SysInfoType18& in, const umts_sib18_info& out) {
+  EXPECT_EQ(out.presence_bitmask, in.m);
+  expectNeighbours(in.idleModePLMNIdentities, out.idleModePLMNIdentities);
+  expectNeighbours(in.connectedModePLMNIdentities, out.connectedModePLMNIdentities);
+  const auto& v6b0 = in.v6b0NonCriticalExtensions;
+  const umts_sysinfotype18_v6b0_nce& flat = out.v6b0NonCriticalExtensions;
+  EXPECT_EQ(flat.presence_bitmask, v6b0.m);
+  EXPECT_EQ(flat.sysInfoType18_v6b0ext.presence_bitmask, v6b0.sysInfoType18_v6b0ext.m);
+  expectNeighbours(v6b0.sysInfoType18_v6b0ext.idleModePLMNIdentitiesSIB11bis,
+                   flat.sysInfoType18_v6b0ext.idleModePLMNIdentitiesSIB11bis);
+  expectNeighbours(v6b0.sysInfoType18_v6b0ext.connectedModePLMNIdentitiesSIB11bis,
+                   flat.sysInfoType18_v6b0ext.connectedModePLMNIdentitiesSIB11bis);
+  const auto& v860 = v6b0.v860NonCriticalExtensions;
+  EXPECT_EQ(flat.v860NonCriticalExtensions.presence_bitmask, v860.m);
+  EXPECT_EQ(flat.v860NonCriticalExtensions.nonCriticalExtensions, 0);
+  const umts_sysinfotype18_v860ext& ext = flat.v860NonCriticalExtensions.sysInfoType18_v860ext;
+  EXPECT_EQ(ext.presence_bitmask, v860.sysInfoType18_v860ext.m);
+  for (const auto& pair : {std::make_pair(&v860.sysInfoType18_v860ext.idleModePLMNIdentities, &ext.idleModePLMNIdentities),
+                           std::make_pair(&v860.sysInfoType18_v860ext.connectedModePLMNIdentities,
+                                          &ext.connectedModePLMNIdentities)}) {
+    EXPECT_EQ(pair.second->presence_bitmask, pair.first->m);
+    expectMultipleCells(pair.first->multipleplmnsOfIntraFreqCellsList, pair.second->multipleplmnsOfIntraFreqCellsList);
+    expectMultipleCells(pair.first->multipleplmnsOfInterFreqCellsList, pair.second->multipleplmnsOfInterFreqCellsList);
+  }
+}
+
+// ---- The cases --------------------------------------------------------------------------
+
+const struct {
+  const char* name;
+  void (*build)(Sib18&);
+  bool bch;  // short enough for the 16 segments of the BCH
+} kCases[] = {
+    {"nothing optional", [](Sib18&) {}, true},
+    {"idle and connected mode, 32 intra-frequency cells, cells without identity",
+     [](Sib18& b) {
+       b.neighbours(b.s.idleModePLMNIdentities, {32, 2, 3});
+       b.neighbours(b.s.connectedModePLMNIdentities, {2, 0, 0});
+       b.s.m = 3;
+     },
+     true},
+    {"v6b0 and v860 levels with the empty extension",
+     [](Sib18& b) {
+       b.v6b0().m = 3;
+       b.neighbours(b.v6b0().idleModePLMNIdentitiesSIB11bis, {4, 0, 2});
+       b.neighbours(b.v6b0().connectedModePLMNIdentitiesSIB11bis, {0, 3, 0});
+       SysInfoType18_v860ext& ext = b.v860(true);
+       ext.m = 3;
+       b.multipleNeighbours(ext.idleModePLMNIdentities, {3, 0});
+       b.multipleNeighbours(ext.connectedModePLMNIdentities, {0, 2});
+     },
+     true},
+    {"32 cells of up to 6 PLMNs, v6b0 without its lists",
+     [](Sib18& b) {
+       b.s.m = 2;
+       b.neighbours(b.s.connectedModePLMNIdentities, {0, 0, 32});
+       SysInfoType18_v860ext& ext = b.v860(false);
+       ext.m = 1;
+       b.multipleNeighbours(ext.idleModePLMNIdentities, {32, 1});
+     },
+     false},
+};
+
+class ConvertSib18 : public FrameTest {};
+
+TEST_F(ConvertSib18, WholeAndOverBchGivesTheValuesBuilt) {
+  const std::vector<uint8_t> sib7 = fromHex(kSib7Hex);
+  for (const auto& c : kCases) {
+    SCOPED_TRACE(c.name);
+    Sib18 b;
+    c.build(b);
+    uint32_t bits = 0;
+    const std::vector<uint8_t> bytes = encode(asn1PE_UMTS_SysInfoType18, b.s, &bits);
+    ASSERT_LE(bytes.size(), static_cast<size_t>(UMTS_SIB_DECODE_LENGTH));
+
+    std::memset(&result->sib18, 0xEE, sizeof result->sib18);
+    std::string out;
+    ASSERT_EQ(whole(umts_sib_sib18, bytes, &out), 1);
+    EXPECT_EQ(out.rfind("Decoded SysInfoType18\n", 0), 0u);
+    EXPECT_EQ(result->presence_bitmask, 1u << umts_sib_sib18);
+    expectSib18(b.s, result->sib18);
+    if (!c.bch) continue;
+
+    // Behind a short SIB7, so that the first segment may share a block and be cut where the
+    // library's octet join needs it.
+    const umts_sib18_info expected = result->sib18;
+    std::memset(&result->sib18, 0xEE, sizeof result->sib18);
+    result->presence_bitmask = 0;
+    const umts_bch_sib sibs[] = {{7, sib7.data(), 11, 0}, {26, bytes.data(), bits, 0}};
+    umts_bch_block blocks[20];
+    uint32_t count = 0;
+    ASSERT_EQ(umts_bch_segment(sibs, 2, 0, blocks, 20, &count, nullptr), umts_bch_ok);
+    for (uint32_t i = 0; i < count; i++) EXPECT_EQ(feed({blocks[i].data, blocks[i].data + UMTS_BCH_BLOCK_OCTETS}), 1);
+    EXPECT_EQ(result->presence_bitmask, (1u << umts_sib_sib7) | (1u << umts_sib_sib18));
+    EXPECT_EQ(std::memcmp(&result->sib18, &expected, sizeof expected), 0);
+  }
+}
+
+TEST_F(ConvertSib18, FailedDecodingKeepsThePreviousRecord) {
+  Sib18 b;
+  kCases[2].build(b);
+  ASSERT_EQ(whole(umts_sib_sib18, encode(asn1PE_UMTS_SysInfoType18, b.s)), 1);
+  const umts_sib18_info before = result->sib18;
+  std::string out;
+  EXPECT_EQ(whole(umts_sib_sib18, {0x90, 0x3E}, &out), 0);  // a cell whose first MCC digit is 15
+  EXPECT_EQ(out, "umts_convert_sib18: asn decoding failed\n");
+  EXPECT_TRUE(logged("2:decode_system_info_msg:umts_convert_sib18 failed"));
+  EXPECT_EQ(result->presence_bitmask, 0);
+  EXPECT_EQ(std::memcmp(&result->sib18, &before, sizeof before), 0);
+}
+
+}  // namespace
