@@ -5,6 +5,7 @@
 
 #include <fstream>
 #include <map>
+#include <memory>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -18,10 +19,8 @@ struct Encoding {
   uint64_t bits;
 };
 
-// Encodings by type: the whole SIBs of the sample cell when present, else the generated
-// round-trip vectors.
-std::map<std::string, std::vector<Encoding>> loadEncodings() {
-  std::map<std::string, std::vector<Encoding>> out;
+std::vector<Encoding> readVectors(const std::string& type_name) {
+  std::vector<Encoding> out;
   std::ifstream in(UMTS_TEST_DATA_DIR "/roundtrip_vectors.txt");
   std::string line;
   while (std::getline(in, line)) {
@@ -30,28 +29,82 @@ std::map<std::string, std::vector<Encoding>> loadEncodings() {
     std::string type, hex;
     Encoding e;
     ls >> type >> e.bits >> hex;
-    if (hex == "-") continue;
+    if (type != type_name || hex == "-") continue;
     e.bytes = testutil::fromHex(hex);
-    out[type].push_back(std::move(e));
+    out.push_back(std::move(e));
   }
   return out;
 }
 
-const std::map<std::string, std::vector<Encoding>>& encodings() {
-  static const auto all = loadEncodings();
-  return all;
+// The whole SIBs of the sample cell, by type: what a real cell broadcasts.
+std::map<std::string, std::vector<Encoding>> loadSamples() {
+  static const std::map<std::string, std::string> kTypes = {
+      {"mib", "MasterInformationBlock"}, {"sb1", "SysInfoTypeSB1"}, {"sb2", "SysInfoTypeSB2"},
+      {"sib1", "SysInfoType1"},          {"sib2", "SysInfoType2"},  {"sib3", "SysInfoType3"},
+      {"sib5", "SysInfoType5"},          {"sib7", "SysInfoType7"},  {"sib11", "SysInfoType11"},
+      {"sib11bis", "SysInfoType11bis"},  {"sib12", "SysInfoType12"}, {"sib18", "SysInfoType18"}};
+  std::map<std::string, std::vector<Encoding>> out;
+  std::ifstream in(UMTS_SAMPLES_DIR "/fdd_cell_sibs.txt");
+  std::string line;
+  while (std::getline(in, line)) {
+    if (line.empty() || line[0] == '#') continue;
+    std::istringstream ls(line);
+    std::string name, hex;
+    ls >> name >> hex;
+    auto it = kTypes.find(name);
+    if (it == kTypes.end()) continue;
+    Encoding e;
+    e.bytes = testutil::fromHex(hex);
+    e.bits = 8 * e.bytes.size();
+    out[it->second].push_back(std::move(e));
+  }
+  return out;
 }
 
-const std::vector<uint8_t> kBchBlock =
-    testutil::fromHex("a143f686e52a22282f36928cc1852026d2519830afacda4a330614909b4944");
+// Encodings of a type: the sample cell's (realistic sizes) or the generated round-trip
+// vectors (random values, every optional part exercised).
+const std::vector<Encoding>& encodings(const std::string& type_name, bool random) {
+  static std::map<std::string, std::vector<Encoding>> vectors;
+  static const auto samples = loadSamples();
+  static const std::vector<Encoding> none;
+  if (!random) {
+    auto it = samples.find(type_name);
+    return it == samples.end() ? none : it->second;
+  }
+  auto it = vectors.find(type_name);
+  if (it == vectors.end()) it = vectors.emplace(type_name, readVectors(type_name)).first;
+  return it->second;
+}
+
+// The transport blocks of the sample cell, and a real one captured from a cell.
+std::vector<std::vector<uint8_t>> loadBlocks() {
+  std::vector<std::vector<uint8_t>> out;
+  out.push_back(testutil::fromHex("a143f686e52a22282f36928cc1852026d2519830afacda4a330614909b4944"));
+  std::ifstream in(UMTS_SAMPLES_DIR "/fdd_cell.bch");
+  std::string line;
+  while (std::getline(in, line)) {
+    if (line.empty() || line[0] == '#') continue;
+    out.push_back(testutil::fromHex(line));
+  }
+  return out;
+}
+
+const std::vector<std::vector<uint8_t>>& blocks() {
+  static const auto all = loadBlocks();
+  return all;
+}
 
 void BM_DecodeBchBlock(benchmark::State& state) {
   rtxContext ctx;
   rtInitContext(&ctx);
   BCCH_BCH_Message msg;
+  const auto& all = blocks();
+  size_t i = 0;
   for (auto _ : state) {
+    const std::vector<uint8_t>& b = all[i];
+    i = i + 1 == all.size() ? 0 : i + 1;
     rtxResetContext(&ctx);
-    pu_setBuffer(&ctx, kBchBlock.data(), static_cast<uint32_t>(kBchBlock.size()), 0);
+    pu_setBuffer(&ctx, b.data(), static_cast<uint32_t>(b.size()), 0);
     int stat = asn1PD_UMTS_BCCH_BCH_Message(&ctx, &msg);
     benchmark::DoNotOptimize(stat);
     benchmark::DoNotOptimize(msg);
@@ -62,34 +115,38 @@ void BM_DecodeBchBlock(benchmark::State& state) {
 BENCHMARK(BM_DecodeBchBlock);
 
 void BM_EncodeBchBlock(benchmark::State& state) {
-  rtxContext dctx, ectx;
-  rtInitContext(&dctx);
-  rtInitContext(&ectx);
-  BCCH_BCH_Message msg;
-  pu_setBuffer(&dctx, kBchBlock.data(), static_cast<uint32_t>(kBchBlock.size()), 0);
-  asn1PD_UMTS_BCCH_BCH_Message(&dctx, &msg);
+  const auto& all = blocks();
+  std::vector<std::unique_ptr<testutil::Decoded>> values;
+  const umts_type_info* type = umts_type_lookup("BCCH_BCH_Message");
+  for (const auto& b : all) {
+    values.emplace_back(new testutil::Decoded);
+    testutil::decode(type, b, *values.back());
+  }
+  rtxContext ctx;
+  rtInitContext(&ctx);
   uint8_t out[64];
+  size_t i = 0;
   for (auto _ : state) {
-    rtxInitContextBuffer(&ectx, out, sizeof out);
-    int stat = asn1PE_UMTS_BCCH_BCH_Message(&ectx, &msg);
+    testutil::Decoded& v = *values[i];
+    i = i + 1 == values.size() ? 0 : i + 1;
+    rtxInitContextBuffer(&ctx, out, sizeof out);
+    int stat = asn1PE_UMTS_BCCH_BCH_Message(&ctx, static_cast<const BCCH_BCH_Message*>(v.value()));
     benchmark::DoNotOptimize(stat);
     benchmark::DoNotOptimize(out);
   }
-  rtFreeContext(&dctx);
-  rtFreeContext(&ectx);
+  rtFreeContext(&ctx);
   state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(BM_EncodeBchBlock);
 
 // Decoding of every encoding of one type in turn.
-void decodeType(benchmark::State& state, const char* type_name) {
+void decodeType(benchmark::State& state, const char* type_name, bool random) {
   const umts_type_info* type = umts_type_lookup(type_name);
-  auto it = encodings().find(type->c_name);
-  if (it == encodings().end()) {
+  const std::vector<Encoding>& list = encodings(type->c_name, random);
+  if (list.empty()) {
     state.SkipWithError("no encodings");
     return;
   }
-  const std::vector<Encoding>& list = it->second;
   std::vector<uint8_t> record(type->size);
   rtxContext ctx;
   rtInitContext(&ctx);
@@ -109,15 +166,15 @@ void decodeType(benchmark::State& state, const char* type_name) {
 }
 
 // Encoding of the same values; each is decoded once beforehand into a context of its own.
-void encodeType(benchmark::State& state, const char* type_name) {
+void encodeType(benchmark::State& state, const char* type_name, bool random) {
   const umts_type_info* type = umts_type_lookup(type_name);
-  auto it = encodings().find(type->c_name);
-  if (it == encodings().end()) {
+  const std::vector<Encoding>& list = encodings(type->c_name, random);
+  if (list.empty()) {
     state.SkipWithError("no encodings");
     return;
   }
   std::vector<std::unique_ptr<testutil::Decoded>> values;
-  for (const Encoding& e : it->second) {
+  for (const Encoding& e : list) {
     values.emplace_back(new testutil::Decoded);
     testutil::decode(type, e.bytes, *values.back());
   }
@@ -136,11 +193,17 @@ void encodeType(benchmark::State& state, const char* type_name) {
   state.SetItemsProcessed(state.iterations());
 }
 
-#define SIB_BENCH(T)                                                           \
-  void BM_Decode_##T(benchmark::State& s) { decodeType(s, #T); }               \
-  BENCHMARK(BM_Decode_##T);                                                    \
-  void BM_Encode_##T(benchmark::State& s) { encodeType(s, #T); }               \
-  BENCHMARK(BM_Encode_##T);
+// Decode and encode of the sample cell's value of a type (when the cell carries it) and of
+// the generated random values.
+#define SIB_BENCH(T)                                                                   \
+  void BM_Decode_##T(benchmark::State& s) { decodeType(s, #T, false); }                \
+  BENCHMARK(BM_Decode_##T);                                                            \
+  void BM_Encode_##T(benchmark::State& s) { encodeType(s, #T, false); }                \
+  BENCHMARK(BM_Encode_##T);                                                            \
+  void BM_DecodeRandom_##T(benchmark::State& s) { decodeType(s, #T, true); }           \
+  BENCHMARK(BM_DecodeRandom_##T);                                                      \
+  void BM_EncodeRandom_##T(benchmark::State& s) { encodeType(s, #T, true); }           \
+  BENCHMARK(BM_EncodeRandom_##T);
 
 SIB_BENCH(MasterInformationBlock)
 SIB_BENCH(SysInfoTypeSB1)

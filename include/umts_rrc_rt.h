@@ -29,6 +29,15 @@ extern "C" {
 #define RT_INLINE static inline
 #endif
 
+/* Branch hints: the fast path of a read, and failures. */
+#if defined(__GNUC__) || defined(__clang__)
+#define RT_LIKELY(x) __builtin_expect(!!(x), 1)
+#define RT_UNLIKELY(x) __builtin_expect(!!(x), 0)
+#else
+#define RT_LIKELY(x) (x)
+#define RT_UNLIKELY(x) (x)
+#endif
+
 /* ---- Statuses ------------------------------------------------------------------------- */
 
 #define RT_OK 0
@@ -129,11 +138,18 @@ void rtxCopyContext(rtxContext* dst, const rtxContext* src);
 
 void* rtxMemHeapAllocSlow(rtxContext* ctx, size_t size);
 
+/* Checking builds (the fuzz targets) define RT_HEAP_REDZONES to 1 for every unit: each
+   allocation is then made out of line and followed by a gap that AddressSanitizer reports
+   when touched. Allocations are no longer adjacent in such a build. */
+#ifndef RT_HEAP_REDZONES
+#define RT_HEAP_REDZONES 0
+#endif
+
 /* Memory from the context heap, 8-byte aligned, contents undefined; null on exhaustion. */
 RT_INLINE void* rtxMemHeapAlloc(rtxContext* ctx, size_t size) {
   size_t rounded = (size + 7u) & ~(size_t)7u;
   rtxMemHeap* h = &ctx->heap;
-  if (size <= RT_HEAP_INLINE && (size_t)(h->end - h->cur) >= rounded && (h->limit == 0 || h->used + rounded <= h->limit)) {
+  if (!RT_HEAP_REDZONES && size <= RT_HEAP_INLINE && (size_t)(h->end - h->cur) >= rounded && (h->limit == 0 || h->used + rounded <= h->limit)) {
     uint8_t* p = h->cur;
     h->last = p;
     h->cur = p + rounded;
@@ -283,35 +299,50 @@ RT_INLINE uint64_t rtxBigEndian64(uint64_t w) {
 #endif
 }
 
-/* Big-endian window of 64 bits starting at byte `bi`, zero past the end. */
+/* Big-endian window of 64 bits starting at byte `bi`, zero past the end. Near the end of a
+   buffer of 8 bytes or more, the last 8 bytes are loaded and shifted into place. */
 RT_INLINE uint64_t rtxLoadWindow(const rtxContext* ctx, uint32_t bi) {
-  const uint8_t* p = ctx->buffer_data + bi;
+  const uint8_t* data = ctx->buffer_data;
+  const uint32_t size = ctx->buffer_size;
   uint64_t w;
-  if ((uint64_t)bi + 8u <= ctx->buffer_size) {
-    memcpy(&w, p, 8);
-    w = rtxBigEndian64(w);
-  } else {
-    uint32_t i, n = bi < ctx->buffer_size ? ctx->buffer_size - bi : 0;
+  if ((uint64_t)bi + 8u <= size) {
+    memcpy(&w, data + bi, 8);
+    return rtxBigEndian64(w);
+  }
+  if (bi >= size) return 0;
+  if (size >= 8u) {
+    memcpy(&w, data + size - 8u, 8);
+    return rtxBigEndian64(w) << (8u * (bi + 8u - size));
+  }
+  {
+    uint32_t i;
     w = 0;
-    for (i = 0; i < n && i < 8u; i++) w |= (uint64_t)p[i] << (56u - 8u * i);
+    for (i = bi; i < size; i++) w |= (uint64_t)data[i] << (56u - 8u * (i - bi));
   }
   return w;
 }
 
-/* Read `nbits` (0..32) as an unsigned number, first bit most significant. */
+/* Read `nbits` (0..32) as an unsigned number, first bit most significant. With 8 bytes
+   ahead the read cannot pass the end (at most 7 + 32 bits are taken), so only reads near
+   the end of the buffer test it. */
 RT_INLINE int rtxDecBitsFast(rtxContext* ctx, uint32_t* pvalue, uint32_t nbits) {
-  uint64_t pos = rtxBitPos(ctx);
-  uint64_t endpos = pos + nbits;
-  if (endpos > (uint64_t)ctx->buffer_size * 8u) return RT_ERR_ENDOFBUF;
-  if (nbits == 0) {
-    *pvalue = 0;
-    return 0;
+  const uint32_t bi = ctx->byte_index;
+  const uint32_t used = (uint32_t)(8 - ctx->bit_offset);
+  uint64_t w;
+  if (RT_LIKELY((uint64_t)bi + 8u <= ctx->buffer_size)) {
+    memcpy(&w, ctx->buffer_data + bi, 8);
+    w = rtxBigEndian64(w);
+  } else {
+    if ((uint64_t)bi * 8u + used + nbits > (uint64_t)ctx->buffer_size * 8u) return RT_ERR_ENDOFBUF;
+    w = rtxLoadWindow(ctx, bi);
   }
+  /* Two shifts, so that a read of 0 bits gives 0 without a shift by 64. */
+  *pvalue = (uint32_t)(((w << used) >> (63u - nbits)) >> 1);
   {
-    uint64_t w = rtxLoadWindow(ctx, ctx->byte_index);
-    *pvalue = (uint32_t)((w << (pos & 7u)) >> (64u - nbits));
+    const uint32_t end = used + nbits;
+    ctx->byte_index = bi + (end >> 3);
+    ctx->bit_offset = (int16_t)(8u - (end & 7u));
   }
-  rtxSetBitPos(ctx, endpos);
   return 0;
 }
 
@@ -450,36 +481,36 @@ int rtxEncGrow(rtxContext* ctx, uint64_t endbit);
    fits one 64-bit window) of `value`, most significant first. Bytes past the write position
    are kept zero, so bits are OR-ed in. */
 RT_INLINE int rtxEncBitsFast(rtxContext* ctx, uint64_t value, uint32_t nbits) {
-  uint64_t pos, endpos;
-  uint32_t bi;
+  const uint32_t bi = ctx->byte_index;
+  const uint32_t used = (uint32_t)(8 - ctx->bit_offset);
+  const uint64_t endpos = (uint64_t)bi * 8u + used + nbits;
   if (nbits == 0) return 0;
-  pos = rtxBitPos(ctx);
-  endpos = pos + nbits;
-  if (endpos + 64u > (uint64_t)ctx->buffer_size * 8u) {
+  if (RT_UNLIKELY(endpos + 64u > (uint64_t)ctx->buffer_size * 8u)) {
     int stat = rtxEncGrow(ctx, endpos);
     if (stat != 0) return stat;
   }
-  bi = ctx->byte_index;
-  if ((uint64_t)bi + 8u <= ctx->buffer_size) {
-    uint64_t w;
-    uint32_t used = (uint32_t)(pos & 7u);
-    value &= (nbits == 64) ? ~0ull : ((1ull << nbits) - 1u);
-    w = rtxBigEndian64(value << (64u - nbits) >> used);
-    {
-      uint64_t cur;
-      memcpy(&cur, ctx->buffer_data + bi, 8);
-      cur |= w;
-      memcpy(ctx->buffer_data + bi, &cur, 8);
-    }
+  value &= (nbits == 64) ? ~0ull : ((1ull << nbits) - 1u);
+  if (RT_LIKELY((uint64_t)bi + 8u <= ctx->buffer_size)) {
+    uint64_t cur;
+    const uint64_t w = rtxBigEndian64(value << (64u - nbits) >> used);
+    memcpy(&cur, ctx->buffer_data + bi, 8);
+    cur |= w;
+    memcpy(ctx->buffer_data + bi, &cur, 8);
   } else {
-    uint32_t i;
-    for (i = 0; i < nbits; i++) {
-      uint64_t p = pos + i;
-      if ((value >> (nbits - 1u - i)) & 1u)
-        ctx->buffer_data[p >> 3] |= (uint8_t)(0x80u >> (p & 7u));
+    /* The last bytes of a fixed buffer: byte by byte. */
+    uint64_t pos = (uint64_t)bi * 8u + used;
+    uint32_t left = nbits;
+    while (left > 0) {
+      const uint32_t room = 8u - (uint32_t)(pos & 7u);
+      const uint32_t take = left < room ? left : room;
+      const uint32_t bits = (uint32_t)(value >> (left - take)) & ((1u << take) - 1u);
+      ctx->buffer_data[pos >> 3] |= (uint8_t)(bits << (room - take));
+      pos += take;
+      left -= take;
     }
   }
-  rtxSetBitPos(ctx, endpos);
+  ctx->byte_index = (uint32_t)(endpos >> 3);
+  ctx->bit_offset = (int16_t)(8u - (uint32_t)(endpos & 7u));
   return 0;
 }
 

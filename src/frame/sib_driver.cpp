@@ -64,6 +64,17 @@ void log_conversion_failure(unsigned id) {
   }
 }
 
+/* The value of a umts_sib_id parameter as the caller passed it. A C caller may pass any
+   value of the enumeration's integer type, while reading the parameter as the C++
+   enumeration is undefined for values beyond the enumeration's range (0 to 15): its bytes
+   are read instead. */
+uint32_t sib_id_value(const umts_sib_id& sib_id) {
+  static_assert(sizeof(umts_sib_id) == sizeof(uint32_t), "umts_sib_id is a 32-bit integer");
+  uint32_t value;
+  std::memcpy(&value, &sib_id, sizeof value);
+  return value;
+}
+
 }  // namespace
 
 umts_sib_id get_sib_type(uint32_t sib_type) {
@@ -73,8 +84,9 @@ umts_sib_id get_sib_type(uint32_t sib_type) {
 }
 
 void umts_sib_decoder_set_gb_ctxt_bitmask(umts_sib_id sib_id) {
-  if (static_cast<uint32_t>(sib_id) < umts_sib_count) {
-    g_umts_ctxt.request_bitmask |= 1u << sib_id;
+  const uint32_t id = sib_id_value(sib_id);
+  if (id < umts_sib_count) {
+    g_umts_ctxt.request_bitmask |= 1u << id;
   } else {
     UMTS_LOG_ERROR("umts_sib_decoder_set_gb_ctxt_bitmask:no such option available");
   }
@@ -116,8 +128,9 @@ uint8_t umts_sib_msg_decoder(umts_sib_id sib_id, const uint8_t* data, umts_sib_s
   }
   UMTS_LOG_TRACE("ASN context initialised");
   /* Any id past the last slot is refused, not only the "invalid" value 12. */
-  if (static_cast<uint32_t>(sib_id) >= umts_sib_count) {
-    UMTS_LOG_ERROR("invalid sib type %d", static_cast<int>(sib_id));
+  const uint32_t id = sib_id_value(sib_id);
+  if (id >= umts_sib_count) {
+    UMTS_LOG_ERROR("invalid sib type %d", static_cast<int>(id));
     rtFreeContext(&ctx);
     return 0;
   }
@@ -127,7 +140,7 @@ uint8_t umts_sib_msg_decoder(umts_sib_id sib_id, const uint8_t* data, umts_sib_s
      long as the conversions' decode window, zero beyond the SIB. A write cursor still
      pointing into the old buffer is detached: later segments of a collection that was under
      way keep counting but write nothing, so these bytes stay as they were given. */
-  umts_sib_slot* slot = &g_umts_ctxt.slots[sib_id];
+  umts_sib_slot* slot = &g_umts_ctxt.slots[id];
   const size_t size = length > UMTS_SIB_DECODE_LENGTH ? length : UMTS_SIB_DECODE_LENGTH;
   uint8_t* bytes = static_cast<uint8_t*>(std::calloc(size, 1));
   std::free(slot->buffer);
@@ -138,12 +151,12 @@ uint8_t umts_sib_msg_decoder(umts_sib_id sib_id, const uint8_t* data, umts_sib_s
     rtFreeContext(&ctx);
     return 0;
   }
-  UMTS_LOG_TRACE("ASN context bch data for sib_type %d allocated, len=%d", static_cast<int>(sib_id),
+  UMTS_LOG_TRACE("ASN context bch data for sib_type %d allocated, len=%d", static_cast<int>(id),
                  static_cast<int>(length));
   std::memcpy(bytes, data, length);
   UMTS_LOG_TRACE("ASN context bch data copied");
 
-  umts_sib_decoder_set_gb_ctxt_bitmask(sib_id);
+  umts_sib_decoder_set_gb_ctxt_bitmask(static_cast<umts_sib_id>(id));
   const uint8_t ret = decode_system_info_msg(result);
   UMTS_LOG_TRACE("system info msg decoded, ret_val=%d", ret);
   rtFreeContext(&ctx);

@@ -179,11 +179,6 @@ std::vector<OutFile> emitHeader(const Model& m) {
   in.line();
   in.line("#include \"umts_rrc.h\"");
   in.line();
-  in.line("#if defined(__GNUC__) || defined(__clang__)");
-  in.line("#define RT_UNLIKELY(x) __builtin_expect(!!(x), 0)");
-  in.line("#else");
-  in.line("#define RT_UNLIKELY(x) (x)");
-  in.line("#endif");
   in.line("/* The record being decoded never overlaps the context. */");
   in.line("#if defined(__GNUC__) || defined(__clang__)");
   in.line("#define RT_RESTRICT __restrict");

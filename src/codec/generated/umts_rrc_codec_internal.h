@@ -9,11 +9,6 @@
 
 #include "umts_rrc.h"
 
-#if defined(__GNUC__) || defined(__clang__)
-#define RT_UNLIKELY(x) __builtin_expect(!!(x), 0)
-#else
-#define RT_UNLIKELY(x) (x)
-#endif
 /* The record being decoded never overlaps the context. */
 #if defined(__GNUC__) || defined(__clang__)
 #define RT_RESTRICT __restrict

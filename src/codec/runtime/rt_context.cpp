@@ -6,6 +6,17 @@
 
 #include "rt_internal.h"
 
+#if defined(__SANITIZE_ADDRESS__)
+#define RT_HEAP_ASAN 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define RT_HEAP_ASAN 1
+#endif
+#endif
+#if RT_HEAP_REDZONES && defined(RT_HEAP_ASAN)
+#include <sanitizer/asan_interface.h>
+#endif
+
 using umts_rt::kContextMagic;
 using umts_rt::kHeapMaxAlloc;
 
@@ -24,6 +35,32 @@ constexpr size_t kMaxGrownBlock = 1024 * 1024;
 
 uint8_t* blockData(rtxHeapBlock* b) { return reinterpret_cast<uint8_t*>(b) + kBlockHeader; }
 
+/* Checking builds: a gap after every allocation, and free heap space marked unaddressable,
+   so that AddressSanitizer reports any access outside the allocations handed out. */
+#if RT_HEAP_REDZONES
+constexpr size_t kRedzone = 16;
+#else
+constexpr size_t kRedzone = 0;
+#endif
+
+inline void poison(const void* p, size_t n) {
+#if RT_HEAP_REDZONES && defined(RT_HEAP_ASAN)
+  ASAN_POISON_MEMORY_REGION(p, n);
+#else
+  (void)p;
+  (void)n;
+#endif
+}
+
+inline void unpoison(const void* p, size_t n) {
+#if RT_HEAP_REDZONES && defined(RT_HEAP_ASAN)
+  ASAN_UNPOISON_MEMORY_REGION(p, n);
+#else
+  (void)p;
+  (void)n;
+#endif
+}
+
 void freeBlocks(rtxMemHeap* h) {
   rtxHeapBlock* b = h->blocks;
   while (b != nullptr) {
@@ -39,6 +76,7 @@ void pointAtInlineBlock(rtxMemHeap* h) {
   h->end = h->cur + RT_HEAP_INLINE;
   h->last = nullptr;
   h->used = 0;
+  poison(h->inline_block, RT_HEAP_INLINE);
 }
 
 /* Bounded text writer: keeps the text NUL-terminated and never writes past `size`. */
@@ -153,6 +191,8 @@ void rtFreeContext(rtxContext* ctx) {
   h->end = nullptr;
   h->last = nullptr;
   h->used = 0;
+  /* The context's memory goes back to its owner whole. */
+  unpoison(h->inline_block, RT_HEAP_INLINE);
   if (ctx->dynamic) {
     /* The buffer lived on the heap just released. */
     ctx->buffer_data = nullptr;
@@ -202,12 +242,13 @@ void* rtxMemHeapAllocSlow(rtxContext* ctx, size_t size) {
   if (size > kHeapMaxAlloc) return nullptr;
   rtxMemHeap* h = &ctx->heap;
   size_t rounded = (size + 7u) & ~size_t(7);
+  const size_t taken = rounded + kRedzone;
   if (h->limit != 0 && h->used + rounded > h->limit) return nullptr;
-  if (static_cast<size_t>(h->end - h->cur) < rounded) {
+  if (static_cast<size_t>(h->end - h->cur) < taken) {
     size_t bsize = h->blocks != nullptr ? h->blocks->size * 2 : kMinBlock;
     if (bsize > kMaxGrownBlock) bsize = kMaxGrownBlock;
     if (bsize < kMinBlock) bsize = kMinBlock;
-    if (bsize < rounded) bsize = rounded;
+    if (bsize < taken) bsize = taken;
     auto* b = static_cast<rtxHeapBlock*>(std::malloc(kBlockHeader + bsize));
     if (b == nullptr) return nullptr;
     b->size = bsize;
@@ -215,10 +256,12 @@ void* rtxMemHeapAllocSlow(rtxContext* ctx, size_t size) {
     h->blocks = b;
     h->cur = blockData(b);
     h->end = h->cur + bsize;
+    poison(h->cur, bsize);
   }
   uint8_t* p = h->cur;
+  unpoison(p, size);
   h->last = p;
-  h->cur = p + rounded;
+  h->cur = p + taken;
   h->used += rounded;
   return p;
 }
@@ -228,7 +271,8 @@ void rtxMemHeapFreePtr(rtxContext* ctx, void* ptr) {
   rtxMemHeap* h = &ctx->heap;
   /* Every allocation is carved from the current block, so `last` lies within it. */
   if (static_cast<uint8_t*>(ptr) != h->last) return;
-  h->used -= static_cast<size_t>(h->cur - h->last);
+  h->used -= static_cast<size_t>(h->cur - h->last) - kRedzone;
+  poison(h->last, static_cast<size_t>(h->cur - h->last));
   h->cur = h->last;
   h->last = nullptr;
 }

@@ -1,0 +1,233 @@
+// The entry code of the fuzz targets; see fuzz_entries.h for the input formats.
+#include "fuzz_entries.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstdarg>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <vector>
+
+#include "umts_rrc_registry.h"
+#include "umts_sib_decoder.h"
+#include "umts_sib_frame.h"
+#include "umts_sib_log.h"
+
+// This program's log function, which replaces the library's default: every call formats its
+// text (so that a format that does not match its values shows up) and drops it. The
+// threshold stays the library's own: a second definition of a variable, interposed, is an
+// ODR violation to clang's AddressSanitizer.
+void zvtLogItC(int level, int module, int instance, int flags, const char* format, ...) {
+  (void)level;
+  (void)module;
+  (void)instance;
+  (void)flags;
+  char text[1024];
+  va_list args;
+  va_start(args, format);
+  std::vsnprintf(text, sizeof text, format, args);
+  va_end(args);
+}
+
+namespace umts_fuzz {
+
+namespace {
+
+struct FreeDeleter {
+  void operator()(void* p) const { std::free(p); }
+};
+using Bytes = std::unique_ptr<uint8_t[], FreeDeleter>;
+
+// A heap copy of exactly `n` bytes, so that a read past the input is reported.
+Bytes exactCopy(const uint8_t* data, size_t n) {
+  Bytes copy(static_cast<uint8_t*>(std::malloc(n > 0 ? n : 1)));
+  if (n > 0) std::memcpy(copy.get(), data, n);
+  return copy;
+}
+
+// The caller's record: large, so made once and kept for the life of the program.
+umts_sib_set* resultRecord() {
+  static umts_sib_set* const record = static_cast<umts_sib_set*>(std::calloc(1, sizeof(umts_sib_set)));
+  return record;
+}
+
+void resetContext() {
+  for (umts_sib_slot& slot : g_umts_ctxt.slots) std::free(slot.buffer);
+  std::memset(&g_umts_ctxt, 0, sizeof g_umts_ctxt);
+}
+
+// Every write cursor lies within its slot's buffer.
+std::string checkSlots() {
+  for (unsigned id = 0; id < umts_sib_count; id++) {
+    const umts_sib_slot& s = g_umts_ctxt.slots[id];
+    if (s.write_cursor == nullptr) continue;
+    if (s.buffer == nullptr || s.write_cursor < s.buffer || s.write_cursor > s.buffer + UMTS_SIB_DECODE_LENGTH)
+      return "slot " + std::to_string(id) + ": write cursor outside its buffer";
+  }
+  return "";
+}
+
+}  // namespace
+
+QuietOutput::QuietOutput() : saved_stdout_(-1) {
+  std::fflush(stdout);
+  rtxPrintFlush();
+  saved_stdout_ = dup(1);
+  const int null_fd = open("/dev/null", O_WRONLY);
+  if (null_fd >= 0) {
+    dup2(null_fd, 1);
+    close(null_fd);
+  }
+  zvtLogLevelThreshold = 6;
+}
+
+QuietOutput::~QuietOutput() {
+  std::fflush(stdout);
+  rtxPrintFlush();
+  if (saved_stdout_ >= 0) {
+    dup2(saved_stdout_, 1);
+    close(saved_stdout_);
+  }
+  zvtLogLevelThreshold = 0;
+}
+
+std::string run_bch(const uint8_t* data, size_t size) {
+  umts_sib_set* result = resultRecord();
+  if (result == nullptr) return "";
+  resetContext();
+  result->presence_bitmask = 0;
+  std::string problem;
+  size_t pos = 0, block = 0;
+  while (pos < size && problem.empty()) {
+    size_t n = data[pos++] & 0x3Fu;
+    if (n > size - pos) n = size - pos;
+    const Bytes copy = exactCopy(data + pos, n);
+    pos += n;
+    const uint8_t status = umts_sib_decoder(copy.get(), result, static_cast<uint32_t>(n));
+    const std::string at = "block " + std::to_string(block++) + ": ";
+    if (status > 1) problem = at + "status " + std::to_string(status);
+    else if (g_umts_ctxt.request_bitmask != 0) problem = at + "requests left after the call";
+    else if ((result->presence_bitmask & ~0xFFFu) != 0) problem = at + "presence bit beyond the last block";
+    else if (!(problem = checkSlots()).empty()) problem = at + problem;
+  }
+  resetContext();
+  return problem;
+}
+
+std::string run_sib_msg(const uint8_t* data, size_t size) {
+  umts_sib_set* result = resultRecord();
+  if (result == nullptr || size == 0) return "";
+  resetContext();
+  result->presence_bitmask = 0;
+  // Ids from 0xF0 up stand for a C caller's value beyond the enumeration: refused.
+  const uint32_t id = data[0] < 0xF0u ? data[0] % umts_sib_count : data[0];
+  const size_t n = size - 1;
+  const Bytes copy = exactCopy(data + 1, n);
+  const uint8_t status = umts_sib_msg_decoder(static_cast<umts_sib_id>(id), copy.get(), result, static_cast<uint32_t>(n));
+  std::string problem;
+  const uint16_t expected = status == 1 ? static_cast<uint16_t>(1u << id) : 0;
+  if (status > 1) problem = "status " + std::to_string(status);
+  else if (id >= umts_sib_count && status != 0) problem = "an id beyond the slots was taken";
+  else if (result->presence_bitmask != expected) problem = "presence bits do not match the status";
+  else if (g_umts_ctxt.request_bitmask != 0) problem = "requests left after the call";
+  else if (id < umts_sib_count && g_umts_ctxt.slots[id].buffer != nullptr) problem = "slot not emptied after its conversion";
+  else problem = checkSlots();
+  resetContext();
+  return problem;
+}
+
+namespace {
+
+// A decoded value of a registry type in a record of exactly its size, with its context.
+struct Value {
+  const umts_type_info* type;
+  Bytes record;
+  rtxContext ctx;
+  int stat = 0;
+  uint64_t bits = 0; /* consumed by the decode */
+
+  Value(const umts_type_info* t, const uint8_t* data, size_t n) : type(t) {
+    record.reset(static_cast<uint8_t*>(std::calloc(1, t->size > 0 ? t->size : 1)));
+    rtInitContext(&ctx);
+    pu_setBuffer(&ctx, data, static_cast<uint32_t>(n), 0);
+    stat = type->decode(&ctx, record.get());
+    bits = rtxBitPos(&ctx);
+  }
+  ~Value() { rtFreeContext(&ctx); }
+  Value(const Value&) = delete;
+  Value& operator=(const Value&) = delete;
+};
+
+struct Encoding {
+  int stat = 0;
+  uint64_t bits = 0;
+  std::vector<uint8_t> bytes;
+  std::string error;
+};
+
+Encoding encode(const Value& v) {
+  Encoding e;
+  rtxContext ctx;
+  rtInitContext(&ctx);
+  e.stat = rtxInitContextBuffer(&ctx, nullptr, 0);
+  if (e.stat == 0) e.stat = v.type->encode(&ctx, v.record.get());
+  if (e.stat == 0) {
+    e.bits = rtxBitPos(&ctx);
+    e.bytes.assign(ctx.buffer_data, ctx.buffer_data + pu_getMsgLen(&ctx));
+  } else {
+    char text[512];
+    rtxErrGetText(&ctx, text, sizeof text);
+    e.error = text;
+  }
+  rtFreeContext(&ctx);
+  return e;
+}
+
+std::string printed(const Value& v) {
+  char* text = nullptr;
+  size_t length = 0;
+  FILE* f = open_memstream(&text, &length);
+  if (f == nullptr) return "";
+  rtxPrintFlush();
+  rtxPrintSetStream(f);
+  v.type->print("value", v.record.get());
+  rtxPrintFlush();
+  rtxPrintSetStream(stdout);
+  std::fclose(f);
+  std::string out(text, length);
+  std::free(text);
+  return out;
+}
+
+}  // namespace
+
+std::string run_codec(const uint8_t* data, size_t size) {
+  if (size < 2 || umts_type_registry_count == 0) return "";
+  const umts_type_info* type = &umts_type_registry[((uint32_t(data[0]) << 8) | data[1]) % umts_type_registry_count];
+  const std::string name = std::string(type->name) + ": ";
+  const size_t n = size - 2;
+  const Bytes input = exactCopy(data + 2, n);
+  const Value first(type, input.get(), n);
+  if (first.stat != 0) return "";
+  if (first.bits > uint64_t(n) * 8u) return name + "the decoder consumed more bits than it was given";
+
+  const Encoding again = encode(first);
+  // A multi-name ENUMERATED decodes any number its bits can hold; the encoder refuses the
+  // ones past the last name.
+  if (again.stat == RT_ERR_INVENUM) return "";
+  if (again.stat != 0) return name + "re-encoding a decoded value failed: " + again.error;
+
+  const Value second(type, again.bytes.data(), again.bytes.size());
+  if (second.stat != 0) return name + "the re-encoding does not decode";
+  if (second.bits != again.bits) return name + "the second decode did not consume exactly the re-encoding";
+  const Encoding third = encode(second);
+  if (third.stat != 0) return name + "encoding the second decode failed: " + third.error;
+  if (third.bits != again.bits || third.bytes != again.bytes) return name + "the two re-encodings differ";
+  if (printed(first) != printed(second)) return name + "the value printed differently after the round trip";
+  return "";
+}
+
+}  // namespace umts_fuzz

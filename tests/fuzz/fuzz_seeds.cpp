@@ -1,0 +1,155 @@
+// Writes the seed corpora of the fuzz targets from the sample cell and the round-trip
+// vector files, in the input formats of fuzz_entries.h:
+//
+//   fuzz_seeds <out-dir> <samples-dir> [<vector-file>...]
+//
+// <out-dir>/bch: each sample transport block, every run of three, and the whole cycle;
+// the BCCH-BCH-Message vectors. <out-dir>/sib_msg: each sample SIB and the vectors of the
+// twelve SIB types, behind their umts_sib_id. <out-dir>/codec: every vector and every sample
+// behind the registry index of its type. A missing vector file is skipped. Files are named
+// after a hash of their contents, so that a seed written twice is one file.
+#include <sys/stat.h>
+
+#include <cstdio>
+#include <fstream>
+#include <map>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "umts_rrc_registry.h"
+
+namespace {
+
+using Bytes = std::vector<uint8_t>;
+
+Bytes fromHex(const std::string& hex) {
+  Bytes out;
+  for (size_t i = 0; i + 1 < hex.size(); i += 2) out.push_back(static_cast<uint8_t>(std::stoul(hex.substr(i, 2), nullptr, 16)));
+  return out;
+}
+
+struct Writer {
+  std::string dir;
+  int count = 0;
+
+  void put(const Bytes& bytes) {
+    uint64_t h = 14695981039346656037ull;
+    for (uint8_t b : bytes) h = (h ^ b) * 1099511628211ull;
+    char name[32];
+    std::snprintf(name, sizeof name, "/%016llx", static_cast<unsigned long long>(h));
+    std::ofstream out(dir + name, std::ios::binary);
+    out.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    count++;
+  }
+};
+
+// A transport block as one element of a bch input; blocks beyond 63 octets do not fit.
+bool appendBlock(Bytes& input, const Bytes& block) {
+  if (block.size() > 63) return false;
+  input.push_back(static_cast<uint8_t>(block.size()));
+  input.insert(input.end(), block.begin(), block.end());
+  return true;
+}
+
+void putCodec(Writer& w, const char* type_name, const Bytes& bytes) {
+  const umts_type_info* t = umts_type_lookup(type_name);
+  if (t == nullptr) return;
+  const uint32_t index = static_cast<uint32_t>(t - umts_type_registry);
+  Bytes input{static_cast<uint8_t>(index >> 8), static_cast<uint8_t>(index)};
+  input.insert(input.end(), bytes.begin(), bytes.end());
+  w.put(input);
+}
+
+// The umts_sib_id of the sample names and of the decoded SIB types.
+const std::map<std::string, int>& sibIds() {
+  static const std::map<std::string, int> ids = {
+      {"mib", 0},      {"MasterInformationBlock", 0}, {"sib1", 1},  {"SysInfoType1", 1},
+      {"sib2", 2},     {"SysInfoType2", 2},           {"sib3", 3},  {"SysInfoType3", 3},
+      {"sib5", 4},     {"SysInfoType5", 4},           {"sib7", 5},  {"SysInfoType7", 5},
+      {"sib11", 6},    {"SysInfoType11", 6},          {"sib11bis", 7}, {"SysInfoType11bis", 7},
+      {"sib12", 8},    {"SysInfoType12", 8},          {"sib18", 9}, {"SysInfoType18", 9},
+      {"sb1", 10},     {"SysInfoTypeSB1", 10},        {"sb2", 11},  {"SysInfoTypeSB2", 11}};
+  return ids;
+}
+
+const char* sampleType(const std::string& name) {
+  static const std::map<std::string, const char*> types = {
+      {"mib", "MasterInformationBlock"}, {"sib1", "SysInfoType1"},   {"sib2", "SysInfoType2"},
+      {"sib3", "SysInfoType3"},          {"sib5", "SysInfoType5"},   {"sib7", "SysInfoType7"},
+      {"sib11", "SysInfoType11"},        {"sib11bis", "SysInfoType11bis"}, {"sib12", "SysInfoType12"},
+      {"sib18", "SysInfoType18"},        {"sb1", "SysInfoTypeSB1"},  {"sb2", "SysInfoTypeSB2"}};
+  auto it = types.find(name);
+  return it != types.end() ? it->second : nullptr;
+}
+
+void putSib(Writer& w, int id, const Bytes& bytes) {
+  Bytes input{static_cast<uint8_t>(id)};
+  input.insert(input.end(), bytes.begin(), bytes.end());
+  w.put(input);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc < 3) {
+    std::fprintf(stderr, "usage: fuzz_seeds <out-dir> <samples-dir> [<vector-file>...]\n");
+    return 2;
+  }
+  const std::string out = argv[1], samples = argv[2];
+  mkdir(out.c_str(), 0777);
+  Writer bch{out + "/bch"}, sib{out + "/sib_msg"}, codec{out + "/codec"};
+  for (const Writer* w : {&bch, &sib, &codec}) mkdir(w->dir.c_str(), 0777);
+
+  // The sample cell: its transport blocks in order, and its SIBs whole.
+  std::vector<Bytes> blocks;
+  std::ifstream cell(samples + "/fdd_cell.bch");
+  for (std::string line; std::getline(cell, line);) {
+    if (line.empty() || line[0] == '#') continue;
+    blocks.push_back(fromHex(line));
+  }
+  if (blocks.empty()) {
+    std::fprintf(stderr, "fuzz_seeds: no transport blocks in %s/fdd_cell.bch\n", samples.c_str());
+    return 1;
+  }
+  Bytes cycle;
+  for (size_t i = 0; i < blocks.size(); i++) {
+    Bytes one, three;
+    if (appendBlock(one, blocks[i])) bch.put(one);
+    for (size_t k = i; k < i + 3 && k < blocks.size(); k++) appendBlock(three, blocks[k]);
+    bch.put(three);
+    appendBlock(cycle, blocks[i]);
+    putCodec(codec, "BCCH_BCH_Message", blocks[i]);
+  }
+  bch.put(cycle);
+  std::ifstream sibs(samples + "/fdd_cell_sibs.txt");
+  for (std::string line; std::getline(sibs, line);) {
+    if (line.empty() || line[0] == '#') continue;
+    std::istringstream ls(line);
+    std::string name, hex;
+    ls >> name >> hex;
+    auto id = sibIds().find(name);
+    if (id == sibIds().end()) continue;
+    putSib(sib, id->second, fromHex(hex));
+    if (const char* type = sampleType(name)) putCodec(codec, type, fromHex(hex));
+  }
+
+  // The vector files: "<type> <bits> <hex>", "-" for no bytes.
+  for (int f = 3; f < argc; f++) {
+    std::ifstream in(argv[f]);
+    for (std::string line; std::getline(in, line);) {
+      if (line.empty() || line[0] == '#') continue;
+      std::istringstream ls(line);
+      std::string type, bits, hex;
+      ls >> type >> bits >> hex;
+      const Bytes bytes = hex == "-" ? Bytes() : fromHex(hex);
+      putCodec(codec, type.c_str(), bytes);
+      auto id = sibIds().find(type);
+      if (id != sibIds().end()) putSib(sib, id->second, bytes);
+      Bytes block;
+      if (type == "BCCH_BCH_Message" && appendBlock(block, bytes)) bch.put(block);
+    }
+  }
+  std::printf("fuzz_seeds: %d bch, %d sib_msg, %d codec seeds in %s\n", bch.count, sib.count, codec.count, out.c_str());
+  return 0;
+}
