@@ -265,9 +265,10 @@ TEST(CodecFailures, TruncatedEncodingsFailAtEveryCut) {
       EXPECT_EQ(std::string(path).rfind(info->name, 0), 0u) << path;
       // With nothing to read the type fails on its own preamble; past that, the path
       // goes down to the element being read.
-      if (cut > 0)
+      if (cut > 0) {
         EXPECT_GT(std::string(path).size(), std::string(info->name).size())
             << "the path names the failing element: " << type << " cut " << cut;
+      }
       checked++;
     }
   }
